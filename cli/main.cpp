@@ -1,0 +1,36 @@
+// trajectoires-cli: the routine tools of the editor, for scripts and other programs.
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "Commandes.h"
+
+namespace {
+void Aide(std::FILE* sortie) {
+  std::fprintf(sortie,
+               "Usage: trajectoires-cli COMMANDE [ARGUMENTS...]\n"
+               "       trajectoires-cli --help\n\n"
+               "Outils en ligne de commande pour les routines (.rou) et figures (.fig).\n\n"
+               "Commandes :\n");
+  if (Commandes().empty()) std::fprintf(sortie, "  (aucune pour l'instant)\n");
+  for (const TCommande& c : Commandes())
+    std::fprintf(sortie, "  %-8s %-20s %s\n", c.Nom.c_str(), c.Usage.c_str(), c.Resume.c_str());
+  std::fprintf(sortie, "  --help   %-20s affiche cette aide\n", "");
+}
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> args(argv + 1, argv + argc);
+  if (args.empty()) {
+    Aide(stderr);
+    return 2;
+  }
+  if (args[0] == "--help" || args[0] == "-h") {
+    Aide(stdout);
+    return 0;
+  }
+  for (const TCommande& c : Commandes())
+    if (c.Nom == args[0]) return c.Executer(std::vector<std::string>(args.begin() + 1, args.end()));
+  std::fprintf(stderr, "trajectoires-cli : commande inconnue « %s » (voir --help)\n", args[0].c_str());
+  return 2;
+}

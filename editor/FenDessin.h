@@ -1,0 +1,61 @@
+#pragma once
+// One sheet ("feuille") of the editor: its number, its mapping of the wind window onto
+// pixels, and the state of the mouse machine shared by all sheets. The widget that shows a
+// sheet forwards its events here and gives it the size of its client area.
+#include <string>
+
+#include "model/Types.h"
+#include "platform/Dialogues.h"
+
+class TDC;
+class TElt;
+class TFenCadre2;
+class TFenListe;
+
+inline constexpr int FONCTION_MODIFICATION = 300;
+inline constexpr int TAILLE_MESSAGE_ERREUR = 160;
+
+class TFenDessin {
+public:
+  TFenDessin(TFenCadre2* cadre, TFenListe* liste, int num);
+
+  void SetNum(int num) { Num = num; }
+  // The client area of the window, in device pixels, as the view last laid it out.
+  void SetTailleClient(int largeur, int hauteur) { TailleClient = TSize{largeur, hauteur}; }
+
+  // Puts dc into the logical mode of the wind window and refreshes the scales and origin.
+  void SetEchelle(TDC& dc);
+  TPoint LPtoDP(const TPointf& p) const;
+  // Always whole logical units; (0, 0) while the window has no size.
+  TPointf DPtoLP(const TPoint& p) const;
+
+  // Reports a user's error on the status line as "!!!! texte", with one beep. The text is
+  // cut to 160 characters in the caller's buffer.
+  void MessageErreur(char* texte);
+  void MessageErreur(const std::string& texte);
+
+  TFenCadre2* pFenCadre;
+  TFenListe* pFenListe;
+  float EchelleX = 0;  // pixels per logical unit along x
+  float EchelleY = 0;  // pixels per logical unit along y, negative: y goes up
+  TPoint Origine;      // logical coordinates of the top left corner
+  int Num;
+  int TempsFeuille = 0;
+  int NbSynchro = 0;  // the last synchronisation number used on this sheet
+  TSize TailleClient;
+
+  // Shared by all sheets, so that a gesture can cross a change of sheet.
+  static float EchIE;  // multiplier of symbol sizes: 1 on the screen
+  static int Fonction;
+  static int Etape;
+  static TElt* pEltCourant;
+  static TElt* pEltCourant2;
+  static TElt* pEltSynchro;
+  static TElt* pEltSel;
+  static TCurseur CursorType;
+  static int nCV;
+  static bool MAJPermanente;
+  static bool MAJUp;
+
+  static void ReinitialiseStatiques();
+};

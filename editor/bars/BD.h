@@ -1,0 +1,39 @@
+#pragma once
+// The property bar of one element: a one-line form in the strip under the sheet. The
+// element owns its bar and writes its values into the bar's fields by control number.
+#include <string>
+
+#include "platform/Types.h"
+
+class TElt;
+
+// Control numbers shared by every bar.
+enum TControleBD : int {
+  IDC_NOM = 500,
+  IDC_CONTRAINTE = 501,
+  IDC_X = 502,
+  IDC_Y = 503,
+  IDC_T = 504,
+  IDC_V = 505,
+};
+
+class TBD {
+public:
+  explicit TBD(TElt* elt) : pElt(elt) {}
+  virtual ~TBD() = default;
+
+  virtual void SetDlgItemText(int id, const std::string& texte) = 0;
+  // Shows the bar at y in the strip, at its present size and in its place among the windows.
+  virtual void Place(int y) = 0;
+  virtual int Hauteur() const = 0;
+  // Takes c as the background and repaints the bar.
+  virtual void SetCouleurFond(TColor c) = 0;
+  // Shows the constraint on its button and the read-only state of the fields it fixes.
+  virtual void SetContrainte() = 0;
+  virtual void SetContrainteAngle() { SetContrainte(); }
+  // Cancels the form, as closing the dialog does, before the bar is destroyed.
+  virtual void CloseWindow(int retour) = 0;
+
+  TElt* pElt;
+  TColor Couleur = TColor::LtBlue;  // a new bar is blue until its first placing
+};

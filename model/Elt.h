@@ -1,0 +1,119 @@
+#pragma once
+// One stretch of a kite's flight: the base of every element class.
+//
+// An element stores its end point and end time; its start is the end of the element before
+// it in the track. Drawing, property bars, solving, writing and flight operations are added
+// to this class by the parts of the program that own them.
+#include "model/ListeCV.h"
+#include "model/Param.h"
+#include "model/Types.h"
+
+class TDC;
+class TFenDessin;
+class TFenListe;
+class TBD;
+
+// Which of an element's values is given by the user.
+enum TContrainte : int {
+  CONTRAINTE_TEMPS = 2,        // "temps": the end time
+  CONTRAINTE_VCONSTANTE = 3,   // "v.constante": part of a stretch flown at even speed
+  CONTRAINTE_DUREE = 5,        // "Duree": a fixed duration
+};
+
+// Transformations of paste, figures and Transforme.
+enum TModeTransformation : int {
+  TRANSFORMATION_MEMES_POINTS = 551,
+  TRANSFORMATION_PARALLELE = 552,
+  TRANSFORMATION_SYMETRIE_X = 553,
+  TRANSFORMATION_SYMETRIE_Y = 554,
+  TRANSFORMATION_SYMETRIE_POINT = 555,
+};
+
+inline constexpr int NB_FILS_MAX = 5;
+inline constexpr float V_DEFAUT = 0.4f;
+
+class TElt : public TNoeud {
+public:
+  TElt(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
+  ~TElt() override;
+
+  static int NbElt;  // the next element number; never falls when an element goes
+
+  // Neighbours in the track, without touching the list's cursor.
+  TElt* GetEltPrecedent() const { return static_cast<TElt*>(GetPrecedent()); }
+  TElt* GetEltSuivant() const { return static_cast<TElt*>(GetSuivant()); }
+
+  virtual void Translate(int dx, int dy, bool AvecDebut) = 0;
+  virtual void Setpp2(const TPointf& p);
+  virtual void Setp2Poignee(const TPointf& p) { Setpp2(p); }
+  virtual void Setp2Param(const TPointf& p);
+  virtual TPointf Getp2() { return Getp2Param(); }
+  virtual TPointf Getp2Param() const { return TPointf(x.GetParam(), y.GetParam()); }
+  virtual void Sett2Param(float t) { t2.SetParam(t); }
+  virtual void Sett2(float t);
+  virtual float Gett2Param() const;
+  virtual void SetV(float v);
+  virtual float GetV() const { return V.GetParam(); }
+  virtual void SetNum(int n) { Num = n; }
+  virtual TVect GetVDir() = 0;
+  virtual int GetAngle() { return 0; }
+  virtual void SetpFen(TFenDessin* fen) { pFen = fen; }
+  virtual bool Clicp2(TDC& dc, int Feuille, const TPoint& p);
+  virtual bool Clic(TDC& dc, int Feuille, const TPoint& p) = 0;
+  virtual bool IsAInvalider() const { return false; }
+  virtual int MoveBD(int y);
+  virtual void CloseBD();
+  virtual void Supprime();
+  virtual bool IsCalculV() const { return false; }
+  virtual float CalculLongueur() = 0;
+  virtual TColor GetCouleur() const;
+  virtual float GetDureeConstante() const = 0;
+  virtual TElt* Copie(TListeCV* l, bool Lien) = 0;
+  virtual void Copie2(TElt* c, bool Lien);
+  virtual void Transforme(TPointf Origine, TPointf Destination, int Mode);
+
+  int Num;
+  int Contrainte = CONTRAINTE_TEMPS;
+  TFenDessin* pFen;
+  TListeCV* pListeCV;
+  TBD* pBD = nullptr;
+  TElt* pFils[NB_FILS_MAX] = {};
+  TElt* pPere = nullptr;
+  int NumSynchro = 0;
+  int NumCVPere = -1;
+  int IndexPere = -1;
+  bool MAJFaite = false;  // visited mark of a whole-document update
+  TParam t2{'t', 0};
+  TParam x;
+  TParam y;
+  TParam V{'v', V_DEFAUT};
+  bool SurPlace = false;
+  float DureeConstante = 0;
+  TFenListe* pFenListe;
+
+protected:
+  // The end point of the copy: the stored one, truncated to whole units.
+  TPoint PointCopie() const;
+  // A new element of class T at PointCopie, built with the class's own fields `champs`,
+  // then given the common values by Copie2.
+  template <class T, class... Champs>
+  TElt* CopieDe(TListeCV* l, bool Lien, Champs... champs) {
+    TElt* c = new T(PointCopie(), pFen, pFenListe, l, champs..., true);
+    Copie2(c, Lien);
+    return c;
+  }
+  // The values of a record common to the classes with a speed, before the bar's refresh.
+  void SetValeurs(int contrainte, float t, float v);
+
+  // Shared by the straight classes, which differ only in how they are drawn and written.
+  float LongueurDroite() const;
+  TVect GetVDirDroite();
+  bool ClicDroit(int Feuille, const TPoint& p) const;
+  void TranslateDroit(int dx, int dy, bool AvecDebut);
+  // True for the classes whose direction is the straight line from their start to their end.
+  virtual bool EstDroit() const { return false; }
+};
+
+// Background colours of a property bar in the strip.
+inline constexpr TColor COULEUR_BD_COURANT{250, 250, 180};
+inline constexpr TColor COULEUR_BD_SELECTION{250, 250, 220};

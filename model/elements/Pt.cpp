@@ -1,0 +1,16 @@
+#include "model/elements/Pt.h"
+
+TPt::TPt(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
+    : TElt(p, fen, fenListe, liste) {
+  Contrainte = CONTRAINTE_TEMPS;
+}
+
+TPt::TPt(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool)
+    : TPt(p, fen, fenListe, liste) {}
+
+void TPt::Set(int, int contrainte, float t) {
+  Contrainte = contrainte;
+  Sett2(t);
+}
+
+TElt* TPt::Copie(TListeCV* l, bool Lien) { return CopieDe<TPt>(l, Lien); }

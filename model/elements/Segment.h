@@ -1,0 +1,35 @@
+#pragma once
+// Straight flight: TSegment flown nose first, TSegRevo flown with the kite turned to Angle.
+#include "model/Elt.h"
+
+class TSegment : public TElt {
+public:
+  TSegment(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
+  TSegment(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+
+  virtual void Set(int, int contrainte, float t, float v);
+
+  void Translate(int dx, int dy, bool AvecDebut) override { TranslateDroit(dx, dy, AvecDebut); }
+  TVect GetVDir() override { return GetVDirDroite(); }
+  bool Clic(TDC&, int Feuille, const TPoint& p) override { return ClicDroit(Feuille, p); }
+  float CalculLongueur() override { return LongueurDroite(); }
+  float GetDureeConstante() const override { return 0; }
+  TElt* Copie(TListeCV* l, bool Lien) override;
+
+protected:
+  bool EstDroit() const override { return true; }
+};
+
+class TSegRevo : public TSegment {
+public:
+  TSegRevo(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angle);
+  TSegRevo(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angle, bool);
+
+  void Set(int n, int contrainte, float t, float v) override;
+  virtual void Set(int, int contrainte, float t, float v, float angle);
+
+  int GetAngle() override;
+  TElt* Copie(TListeCV* l, bool Lien) override;
+
+  float Angle;  // orientation of the kite along the line, degrees
+};

@@ -1,0 +1,75 @@
+#pragma once
+// The drawing surface handed to every paint, invalidation and hit test of the editor.
+// A surface is either in logical mode (the mapping set by SetWindowExt/SetViewportExt/
+// SetWindowOrg) or in device mode (pixels, origin at the top left of the drawing area).
+#include <string>
+#include <vector>
+
+#include "platform/Types.h"
+
+enum class TMapMode { Texte, Anisotrope };  // device pixels, or the logical mapping
+
+struct TPen {
+  enum class Style { Plein, Pointille };
+  TColor Couleur = TColor::Black;
+  int Largeur = 0;  // 0: one device pixel at any scale
+  Style Trait = Style::Plein;
+  friend bool operator==(const TPen&, const TPen&) = default;
+};
+
+struct TBrush {
+  TColor Couleur = TColor::White;
+  friend bool operator==(const TBrush&, const TBrush&) = default;
+};
+
+struct TFont {
+  std::string Nom;
+  int Hauteur = 0;  // in the units of the current mode
+  int Graisse = 400;
+  int JeuCaracteres = 1;
+  friend bool operator==(const TFont&, const TFont&) = default;
+};
+
+enum class TStockObject { BlackPen, WhiteBrush };
+
+// Text alignment flags, combined with |.
+enum TTextAlign : unsigned {
+  TA_LEFT = 0, TA_RIGHT = 2, TA_CENTER = 6,
+  TA_TOP = 0, TA_BOTTOM = 8, TA_BASELINE = 24,
+};
+
+enum class TBkMode { Transparent, Opaque };
+
+class TDC {
+public:
+  virtual ~TDC() = default;
+
+  virtual void SetMapMode(TMapMode mode) = 0;
+  virtual void SetWindowExt(const TSize& ext) = 0;
+  virtual void SetViewportExt(const TSize& ext) = 0;
+  virtual void SetWindowOrg(const TPoint& origine) = 0;
+
+  virtual void SelectObject(const TPen& pen) = 0;
+  virtual void SelectObject(const TBrush& brush) = 0;
+  virtual void SelectObject(const TFont& font) = 0;
+  virtual void SelectStockObject(TStockObject objet) = 0;
+
+  virtual void MoveToEx(const TPoint& p) = 0;
+  virtual void LineTo(const TPoint& p) = 0;  // last pixel excluded
+  virtual void Rectangle(const TRect& r) = 0;
+  virtual void Ellipse(const TRect& r) = 0;
+  virtual void Polygon(const std::vector<TPoint>& points) = 0;
+  // Arc of the ellipse inscribed in r, counter-clockwise on screen from the ray
+  // through debut to the ray through fin; false when the surface could not draw it.
+  virtual bool Arc(const TRect& r, const TPoint& debut, const TPoint& fin) = 0;
+  virtual void SetPixel(const TPoint& p, TColor couleur) = 0;
+
+  virtual void SetTextAlign(unsigned flags) = 0;
+  virtual void SetTextColor(TColor couleur) = 0;
+  virtual void SetBkColor(TColor couleur) = 0;
+  virtual void SetBkMode(TBkMode mode) = 0;
+  virtual void TextOut(const TPoint& p, const std::string& texte) = 0;
+
+  // Marks a device rectangle to be erased to the background and repainted.
+  virtual void InvalidateRect(const TRect& r, bool effacer = true) = 0;
+};

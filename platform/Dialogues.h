@@ -1,0 +1,48 @@
+#pragma once
+// Message boxes, the beep, the editor's status line, the file and input dialogs and the
+// cursor: every exchange with the user that is not drawing. Behaviour code reaches them
+// only through Dialogues(), so that tests can script the answers.
+#include <optional>
+#include <string>
+
+enum class TBoutons { OK, OKAnnuler, OuiNon, OuiNonAnnuler };
+enum class TIcone { Aucune, Information, Question, Avertissement, Erreur };
+enum class TReponse { OK, Annuler, Oui, Non };
+enum class TCurseur { Fleche, Carre, CarreCroix, Attente };
+
+class TDialogues {
+public:
+  virtual ~TDialogues() = default;
+
+  virtual TReponse MessageBox(const std::string& texte, const std::string& titre,
+                              TBoutons boutons = TBoutons::OK, TIcone icone = TIcone::Aucune) = 0;
+  virtual void MessageBeep(int type = -1) = 0;
+  // The message area of the editor frame's status bar.
+  virtual void MessageStatut(const std::string& texte) = 0;
+  // File dialogs: the chosen path, or nothing when the user cancels.
+  virtual std::optional<std::string> FichierAOuvrir(const std::string& titre, const std::string& filtre) = 0;
+  virtual std::optional<std::string> FichierAEnregistrer(const std::string& titre, const std::string& filtre) = 0;
+  // The one-line input dialog: the text typed, or nothing on Cancel.
+  virtual std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
+                                            const std::string& valeur) = 0;
+  virtual void SetCurseur(TCurseur curseur) = 0;
+};
+
+// Answers every box with its first button and writes what it was asked to standard error:
+// what the command-line companion uses, and the default until the application installs its own.
+class TDialoguesConsole : public TDialogues {
+public:
+  TReponse MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons,
+                      TIcone icone) override;
+  void MessageBeep(int type) override;
+  void MessageStatut(const std::string& texte) override;
+  std::optional<std::string> FichierAOuvrir(const std::string& titre, const std::string& filtre) override;
+  std::optional<std::string> FichierAEnregistrer(const std::string& titre, const std::string& filtre) override;
+  std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
+                                    const std::string& valeur) override;
+  void SetCurseur(TCurseur curseur) override;
+};
+
+TDialogues& Dialogues();
+// Installs d (not owned) as the one used from now on; null brings back the console one.
+void SetDialogues(TDialogues* d);
