@@ -70,7 +70,7 @@ public:
   TReponse MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons,
                       TIcone icone) override {
     Boites.push_back({texte, titre, boutons, icone});
-    if (Reponses.empty()) return TReponse::OK;
+    if (Reponses.empty()) return ParDefaut;
     const TReponse r = Reponses.front();
     Reponses.pop_front();
     return r;
@@ -86,7 +86,8 @@ public:
   }
   void SetCurseur(TCurseur c) override { Curseur = c; }
 
-  std::deque<TReponse> Reponses;                  // answers to the next boxes; OK once empty
+  std::deque<TReponse> Reponses;  // answers to the next boxes
+  TReponse ParDefaut = TReponse::OK;  // the answer once they are used up
   std::deque<std::optional<std::string>> Textes;  // answers to the next file or input dialogs
   std::vector<Boite> Boites;
   std::vector<std::string> Statuts;

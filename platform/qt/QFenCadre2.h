@@ -1,0 +1,19 @@
+#pragma once
+// The editor's main window: a view over TFenCadre2.
+#include "editor/FenCadre2.h"
+
+#include <QMainWindow>
+
+class QFenCadre2 : public QMainWindow {
+  Q_OBJECT
+public:
+  explicit QFenCadre2(QWidget* parent = nullptr);
+
+  TFenCadre2& Cadre() { return cadre_; }
+
+protected:
+  void closeEvent(QCloseEvent* evenement) override;
+
+private:
+  TFenCadre2 cadre_;
+};

@@ -1,0 +1,144 @@
+#include "platform/qt/QtDialogues.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QStringList>
+
+namespace {
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+QMessageBox::Icon IconeQt(TIcone icone) {
+  switch (icone) {
+    case TIcone::Information: return QMessageBox::Information;
+    case TIcone::Question: return QMessageBox::Question;
+    case TIcone::Avertissement: return QMessageBox::Warning;
+    case TIcone::Erreur: return QMessageBox::Critical;
+    case TIcone::Aucune: break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons BoutonsQt(TBoutons boutons) {
+  switch (boutons) {
+    case TBoutons::OK: return QMessageBox::Ok;
+    case TBoutons::OKAnnuler: return QMessageBox::Ok | QMessageBox::Cancel;
+    case TBoutons::OuiNon: return QMessageBox::Yes | QMessageBox::No;
+    case TBoutons::OuiNonAnnuler: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+// The first button is the default one, as the program's boxes were written expecting.
+QMessageBox::StandardButton PremierBouton(TBoutons boutons) {
+  switch (boutons) {
+    case TBoutons::OK:
+    case TBoutons::OKAnnuler: return QMessageBox::Ok;
+    case TBoutons::OuiNon:
+    case TBoutons::OuiNonAnnuler: return QMessageBox::Yes;
+  }
+  return QMessageBox::Ok;
+}
+
+Qt::CursorShape FormeQt(TCurseur curseur) {
+  switch (curseur) {
+    case TCurseur::Carre:
+    case TCurseur::CarreCroix: return Qt::CrossCursor;
+    case TCurseur::Attente: return Qt::WaitCursor;
+    case TCurseur::Fleche: break;
+  }
+  return Qt::ArrowCursor;
+}
+
+std::optional<std::string> Chemin(const QString& chemin) {
+  if (chemin.isEmpty()) return std::nullopt;
+  return chemin.toStdString();
+}
+
+}  // namespace
+
+TQtDialogues::~TQtDialogues() { RetireAttente(); }
+
+TReponse TQtDialogues::MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons,
+                                  TIcone icone) {
+  QMessageBox boite(IconeQt(icone), Q(titre), Q(texte), BoutonsQt(boutons), parent_);
+  boite.setDefaultButton(PremierBouton(boutons));
+  switch (boite.exec()) {
+    case QMessageBox::Ok: return TReponse::OK;
+    case QMessageBox::Cancel: return TReponse::Annuler;
+    case QMessageBox::Yes: return TReponse::Oui;
+    case QMessageBox::No: return TReponse::Non;
+    default: break;
+  }
+  // Dismissed without a button (Qt normally maps that to Cancel or No itself).
+  switch (boutons) {
+    case TBoutons::OK: return TReponse::OK;
+    case TBoutons::OuiNon: return TReponse::Non;
+    case TBoutons::OKAnnuler:
+    case TBoutons::OuiNonAnnuler: break;
+  }
+  return TReponse::Annuler;
+}
+
+void TQtDialogues::MessageBeep(int) { QApplication::beep(); }
+
+void TQtDialogues::MessageStatut(const std::string& texte) {
+  if (barre_) barre_->showMessage(Q(texte));
+}
+
+std::optional<std::string> TQtDialogues::FichierAOuvrir(const std::string& titre, const std::string& filtre) {
+  return Chemin(QFileDialog::getOpenFileName(parent_, Q(titre), QString(), FiltreQt(filtre)));
+}
+
+std::optional<std::string> TQtDialogues::FichierAEnregistrer(const std::string& titre, const std::string& filtre) {
+  return Chemin(QFileDialog::getSaveFileName(parent_, Q(titre), QString(), FiltreQt(filtre)));
+}
+
+std::optional<std::string> TQtDialogues::Saisie(const std::string& titre, const std::string& invite,
+                                                const std::string& valeur) {
+  bool ok = false;
+  const QString texte = QInputDialog::getText(parent_, Q(titre), Q(invite), QLineEdit::Normal, Q(valeur), &ok);
+  if (!ok) return std::nullopt;
+  return texte.toStdString();
+}
+
+void TQtDialogues::SetCurseur(TCurseur curseur) {
+  if (curseur == TCurseur::Attente) {
+    // Busy means busy everywhere, menus included: hence the application-wide override.
+    if (!attente_) QApplication::setOverrideCursor(Qt::WaitCursor);
+    attente_ = true;
+    return;
+  }
+  RetireAttente();
+  if (zone_) zone_->setCursor(FormeQt(curseur));
+}
+
+void TQtDialogues::RetireAttente() {
+  if (!attente_) return;
+  attente_ = false;
+  QApplication::restoreOverrideCursor();
+}
+
+QString FiltreQt(const std::string& filtre) {
+  const QString f = Q(filtre);
+  if (!f.contains(u'|')) return f;
+  const QStringList colonnes = f.split(u'|');
+  QStringList filtres;
+  for (qsizetype i = 0; i + 1 < colonnes.size(); i += 2) {
+    QString description = colonnes[i].trimmed();
+    // Qt reads the patterns from the brackets; rebuild them from the pattern column.
+    const qsizetype parenthese = description.lastIndexOf(u'(');
+    if (parenthese > 0 && description.endsWith(u')')) description = description.left(parenthese).trimmed();
+    QStringList motifs;
+    for (const QString& m : colonnes[i + 1].split(u';', Qt::SkipEmptyParts)) {
+      const QString motif = m.trimmed();
+      // "*.*" meant every file; here it would miss the names without a dot.
+      motifs << (motif == QStringLiteral("*.*") ? QStringLiteral("*") : motif);
+    }
+    if (motifs.isEmpty()) continue;
+    filtres << description + QStringLiteral(" (") + motifs.join(u' ') + u')';
+  }
+  return filtres.join(QStringLiteral(";;"));
+}

@@ -1,0 +1,48 @@
+#pragma once
+// The dialogs of the real application: Qt's message box, file and input dialogs, the
+// editor's status bar and the mouse cursor.
+#include "platform/Dialogues.h"
+
+#include <QCursor>
+#include <QPointer>
+#include <QStatusBar>
+#include <QString>
+#include <QWidget>
+
+class TQtDialogues : public TDialogues {
+public:
+  TQtDialogues() = default;
+  ~TQtDialogues() override;
+  TQtDialogues(const TQtDialogues&) = delete;
+  TQtDialogues& operator=(const TQtDialogues&) = delete;
+
+  // The window the dialogs are centred on and modal to; none: centred on the screen.
+  void SetParent(QWidget* parent) { parent_ = parent; }
+  // Where MessageStatut writes; none: the message is dropped.
+  void SetBarreStatut(QStatusBar* barre) { barre_ = barre; }
+  // The widget whose cursor SetCurseur sets (the drawing area); the busy cursor is global.
+  void SetZoneCurseur(QWidget* zone) { zone_ = zone; }
+
+  TReponse MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons,
+                      TIcone icone) override;
+  void MessageBeep(int type) override;
+  void MessageStatut(const std::string& texte) override;
+  std::optional<std::string> FichierAOuvrir(const std::string& titre, const std::string& filtre) override;
+  std::optional<std::string> FichierAEnregistrer(const std::string& titre, const std::string& filtre) override;
+  std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
+                                    const std::string& valeur) override;
+  void SetCurseur(TCurseur curseur) override;
+
+private:
+  void RetireAttente();
+
+  QPointer<QWidget> parent_;
+  QPointer<QStatusBar> barre_;
+  QPointer<QWidget> zone_;
+  bool attente_ = false;  // our busy cursor is on the application's override stack
+};
+
+// A file filter in Qt's form. Callers may give it in the two-column form
+// "Routines (*.cv)|*.cv|Tous (*.*)|*.*": each description is kept, with its patterns
+// (';'-separated) appended in brackets when the description lacks them.
+QString FiltreQt(const std::string& filtre);

@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include "Attente.h"
+#include "support/Doubles.h"
+#include "app/App.h"
+#include "editor/FenDessin.h"
+#include "model/Document.h"
+
+#include <QApplication>
+#include <QStatusBar>
+#include <QTimer>
+#include <QWindow>
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+void PrintTo(const QRect& r, std::ostream* os) {
+  *os << "(" << r.x() << ", " << r.y() << ") " << r.width() << "x" << r.height();
+}
+
+namespace {
+
+class AppTest : public ::testing::Test {
+protected:
+  void SetUp() override {
+    ReinitialiseDocument();
+    app = std::make_unique<TApp>();
+    app->Demarre();
+    ASSERT_TRUE(AttendQue([&] { return Exposee(app->Editeur()) && Exposee(app->Lecteur()); }))
+        << "the windows never appeared on the X server";
+  }
+  void TearDown() override {
+    SetDialogues(nullptr);
+    app.reset();
+    ReinitialiseDocument();
+  }
+
+  static bool Exposee(QWidget* w) { return w && w->windowHandle() && w->windowHandle()->isExposed(); }
+
+  // The script replaces the application's own dialogs, which would wait for a real click.
+  // An unexpected box is answered Cancel, so that it can never end the program.
+  void Scripte() {
+    dialogues.ParDefaut = TReponse::Annuler;
+    SetDialogues(&dialogues);
+  }
+
+  std::unique_ptr<TApp> app;
+  TDialoguesScriptes dialogues;
+};
+
+TEST_F(AppTest, TheEditorThenThePlayerAreShownWithTheirCaptionsAndFrames) {
+  std::vector<QWidget*> visibles;
+  for (QWidget* w : QApplication::topLevelWidgets())
+    if (w->isVisible()) visibles.push_back(w);
+  ASSERT_EQ(visibles.size(), 2u);
+
+  QFenCadre2* editeur = app->Editeur();
+  QFenCadre* lecteur = app->Lecteur();
+  EXPECT_EQ(editeur->windowTitle(), QStringLiteral("Dessin Trajectoires"));
+  EXPECT_EQ(lecteur->windowTitle(), QStringLiteral("CV"));
+
+  // The rectangles are the frames', decorations included. Under xvfb-run there is no window
+  // manager and so no decoration; under one, the frame is only known a moment after showing.
+  AttendQue([&] { return editeur->frameGeometry() == QRect(20, 20, 600, 600); }, 2000);
+  EXPECT_EQ(editeur->frameGeometry(), QRect(20, 20, 600, 600));
+  AttendQue([&] { return lecteur->frameGeometry() == QRect(400, 200, 400, 290); }, 2000);
+  EXPECT_EQ(lecteur->frameGeometry(), QRect(400, 200, 400, 290));
+
+  EXPECT_TRUE(editeur->statusBar()->isVisible());
+  EXPECT_EQ(editeur->Cadre().nbFeuilles, 2) << "the view must set up the spare sheet";
+}
+
+TEST_F(AppTest, ClosingTheEditorAsksOnceAndCancelKeepsEverythingOpen) {
+  Scripte();
+  dialogues.Reponses = {TReponse::Annuler};
+  EXPECT_FALSE(app->Editeur()->close());
+
+  ASSERT_EQ(dialogues.Boites.size(), 1u);
+  EXPECT_EQ(dialogues.Boites[0].Texte, "Fermeture Définitive ?");
+  EXPECT_EQ(dialogues.Boites[0].Titre, "CV");
+  EXPECT_EQ(dialogues.Boites[0].Boutons, TBoutons::OKAnnuler);
+  EXPECT_EQ(dialogues.Boites[0].Icone, TIcone::Question);
+  EXPECT_TRUE(app->Editeur()->isVisible());
+  EXPECT_TRUE(app->Lecteur()->isVisible());
+  EXPECT_EQ(dialogues.Bips, 0);
+}
+
+TEST_F(AppTest, ClosingTheEditorWithOkEndsTheEventLoopWithoutAskingThePlayer) {
+  Scripte();
+  dialogues.Reponses = {TReponse::OK};
+  std::optional<bool> fermee;
+  QTimer::singleShot(0, app->Editeur(), [&] { fermee = app->Editeur()->close(); });
+  // Should the loop not end, the guard ends it with a code the test refuses.
+  QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(99); });
+  const int code = QApplication::exec();
+
+  EXPECT_EQ(code, 0);
+  ASSERT_TRUE(fermee.has_value());
+  EXPECT_TRUE(*fermee);
+  EXPECT_EQ(dialogues.Boites.size(), 1u);
+  EXPECT_FALSE(app->Editeur()->isVisible());
+  // Quitting must not go through the player's close, which refuses with a beep.
+  EXPECT_EQ(dialogues.Bips, 0);
+  EXPECT_TRUE(app->Lecteur()->isVisible());
+}
+
+TEST_F(AppTest, ClosingThePlayerBeepsOnceAndLeavesItOpen) {
+  Scripte();
+  EXPECT_FALSE(app->Lecteur()->close());
+  EXPECT_EQ(dialogues.Bips, 1);
+  EXPECT_TRUE(dialogues.Boites.empty());
+  EXPECT_TRUE(app->Lecteur()->isVisible());
+  EXPECT_TRUE(app->Editeur()->isVisible());
+}
+
+TEST_F(AppTest, StatusMessagesOfTheSheetsReachTheEditorsStatusBar) {
+  app->Editeur()->Cadre().GetFeuille(0)->MessageErreur(std::string("Élément hors de la feuille"));
+  EXPECT_EQ(app->Editeur()->statusBar()->currentMessage(), QStringLiteral("!!!! Élément hors de la feuille"));
+  EXPECT_TRUE(app->Lecteur()->statusBar()->currentMessage().isEmpty());
+}
+
+TEST_F(AppTest, IdlePollsSlowlyUnlessASceneIsRunning) {
+  ASSERT_FALSE(app->IdleAction());
+  EXPECT_GT(app->IntervalleIdle(), 0) << "no scene: the idle timer must not spin";
+
+  Globals.blActif = 1;
+  EXPECT_FALSE(app->IdleAction());
+  EXPECT_GT(app->IntervalleIdle(), 0);
+  Globals.blActif = 0;
+  Globals.blDemoOK = 1;
+  EXPECT_FALSE(app->IdleAction());
+  EXPECT_GT(app->IntervalleIdle(), 0);
+
+  // The timer itself notices the scene, without anyone calling IdleAction.
+  Globals.blActif = 1;
+  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() == 0; }, 2000));
+  Globals.blDemoOK = 0;
+  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() > 0; }, 2000));
+}
+
+TEST(AffichageDisponible, NeedsANonEmptyDisplayVariableOrAChosenPlatform) {
+  const char* noms[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+  std::vector<std::optional<std::string>> sauvees;
+  for (const char* nom : noms) {
+    const char* v = std::getenv(nom);
+    sauvees.push_back(v ? std::optional<std::string>(v) : std::nullopt);
+    unsetenv(nom);
+  }
+  char programme[] = "trajectoires", option[] = "-platform", offscreen[] = "offscreen";
+  char* seul[] = {programme, nullptr};
+  char* avecOption[] = {programme, option, offscreen, nullptr};
+
+  EXPECT_FALSE(AffichageDisponible(1, seul));
+  EXPECT_TRUE(AffichageDisponible(3, avecOption));
+  for (const char* nom : noms) {
+    setenv(nom, "", 1);
+    EXPECT_FALSE(AffichageDisponible(1, seul)) << "empty " << nom;
+    setenv(nom, "x", 1);
+    EXPECT_TRUE(AffichageDisponible(1, seul)) << nom;
+    unsetenv(nom);
+  }
+
+  for (std::size_t i = 0; i < sauvees.size(); ++i)
+    if (sauvees[i]) setenv(noms[i], sauvees[i]->c_str(), 1);
+}
+
+}  // namespace
