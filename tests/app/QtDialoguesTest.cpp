@@ -65,11 +65,6 @@ TEST(QtDialogues, TheBoxShowsCaptionTextIconAndOnlyTheAskedButtons) {
   EXPECT_EQ(vue.Icone, QMessageBox::Question);
   EXPECT_EQ(vue.Boutons, QMessageBox::Ok | QMessageBox::Cancel);
   EXPECT_EQ(vue.ParDefaut, QMessageBox::Ok);
-
-  Repond(dialogues, TBoutons::OuiNonAnnuler, QMessageBox::Cancel, &vue, TIcone::Erreur);
-  EXPECT_EQ(vue.Icone, QMessageBox::Critical);
-  EXPECT_EQ(vue.Boutons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-  EXPECT_EQ(vue.ParDefaut, QMessageBox::Yes);
 }
 
 TEST(QtDialogues, InputGivesTheTypedTextOrNothingOnCancel) {
@@ -87,31 +82,9 @@ TEST(QtDialogues, InputGivesTheTypedTextOrNothingOnCancel) {
   EXPECT_EQ(dialogues.Saisie("Figure", "Nom :", "Boucle"), std::nullopt);
 }
 
-TEST(QtDialogues, TheBusyCursorIsSetOnceAndAlwaysTakenBack) {
-  ASSERT_EQ(QApplication::overrideCursor(), nullptr);
-  QWidget zone;
-  {
-    TQtDialogues dialogues;
-    dialogues.SetZoneCurseur(&zone);
-    dialogues.SetCurseur(TCurseur::Attente);
-    dialogues.SetCurseur(TCurseur::Attente);
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-
-    dialogues.SetCurseur(TCurseur::CarreCroix);
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "one restore must undo both waits";
-    EXPECT_EQ(zone.cursor().shape(), Qt::CrossCursor);
-    dialogues.SetCurseur(TCurseur::Fleche);
-    EXPECT_EQ(zone.cursor().shape(), Qt::ArrowCursor);
-
-    dialogues.SetCurseur(TCurseur::Attente);
-  }
-  EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "left waiting when the dialogs went away";
-}
-
 TEST(FiltreQt, TwoColumnFiltersBecomeQtFilters) {
-  EXPECT_EQ(FiltreQt("Routines (*.cv)|*.cv|Tous les fichiers (*.*)|*.*|"),
-            QStringLiteral("Routines (*.cv);;Tous les fichiers (*)"));
+  EXPECT_EQ(FiltreQt("Routines (*.rou)|*.rou|Tous les fichiers (*.*)|*.*|"),
+            QStringLiteral("Routines (*.rou);;Tous les fichiers (*)"));
   EXPECT_EQ(FiltreQt("Musique|*.wav;*.mp3"), QStringLiteral("Musique (*.wav *.mp3)"));
   EXPECT_EQ(FiltreQt("Modèles 3D (*.x *.3ds)"), QStringLiteral("Modèles 3D (*.x *.3ds)"));
   EXPECT_EQ(FiltreQt("Vide|"), QString());

@@ -139,21 +139,15 @@ TEST_F(ListeTest, InsertionsPlaceNodesAndOwnThem) {
     EXPECT_FALSE(l.Insere(perdu, &etranger));
     EXPECT_EQ(perdu->GetpListe(), nullptr);
     delete perdu;
-    EXPECT_EQ(Ids(l), (std::vector<int>{6, 8, 0, 5, 1, 7}));
-    EXPECT_EQ(l.nbNoeud(), 6);
+    l.Init();
+    l.Precedent();
+    l.Insere(new Noeud(3));  // a cursor on the head sentinel inserts at the head
+    EXPECT_EQ(Ids(l), (std::vector<int>{3, 6, 8, 0, 5, 1, 7}));
+    EXPECT_EQ(l.nbNoeud(), 7);
     for (TNoeud* p = l.Premier(); p; p = p->GetSuivant()) EXPECT_EQ(p->GetpListe(), &l);
     detruits = 0;
   }
-  EXPECT_EQ(detruits, 6);  // the list destroys what it holds, through the virtual destructor
-}
-
-TEST_F(ListeTest, InsereOnHeadCursorInsertsAtHead) {
-  TListe l;
-  Remplit(l, 1);
-  l.Init();
-  l.Precedent();
-  l.Insere(new Noeud(3));
-  EXPECT_EQ(Ids(l), (std::vector<int>{3, 0}));
+  EXPECT_EQ(detruits, 7);  // the list destroys what it holds, through the virtual destructor
 }
 
 TEST_F(ListeTest, NonCursorFamilyLeavesCursorAlone) {
