@@ -25,6 +25,10 @@ public:
   // Asks "Fermeture Définitive ?"; true when the user agrees to end the program.
   bool CanClose();
 
+  // The control bar's gadget that shows the father picked for the next synchronisation.
+  void SetTexteGadgetSynchro(const std::string& texte) { TexteGadgetSynchro = texte; }
+  const std::string& GetTexteGadgetSynchro() const { return TexteGadgetSynchro; }
+
   TFenDessin* GetFeuille(int i) const { return TabFenDes[static_cast<std::size_t>(i)].get(); }
   const std::string& GetLabelOnglet(int i) const { return TabOnglets[static_cast<std::size_t>(i)]; }
 
@@ -35,4 +39,5 @@ public:
 private:
   std::vector<std::unique_ptr<TFenDessin>> TabFenDes;  // entry i is sheet number i + 1
   std::vector<std::string> TabOnglets;                 // the tab labels, same index
+  std::string TexteGadgetSynchro = " / ";
 };

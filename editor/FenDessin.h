@@ -11,6 +11,7 @@ class TDC;
 class TElt;
 class TFenCadre2;
 class TFenListe;
+class TListeCV;
 
 inline constexpr int FONCTION_MODIFICATION = 300;
 inline constexpr int TAILLE_MESSAGE_ERREUR = 160;
@@ -30,9 +31,23 @@ public:
   TPointf DPtoLP(const TPoint& p) const;
 
   // Reports a user's error on the status line as "!!!! texte", with one beep. The text is
-  // cut to 160 characters in the caller's buffer.
-  void MessageErreur(char* texte);
-  void MessageErreur(const std::string& texte);
+  // cut to 160 characters in the caller's buffer. The status line is the editor's, whichever
+  // sheet reports.
+  static void MessageErreur(char* texte);
+  static void MessageErreur(const std::string& texte);
+  static void MessageErreur(const char* texte) { MessageErreur(std::string(texte)); }
+
+  // Solving of times and speeds. A local update from e, towards the next stretch when
+  // Suivant is set and the previous one when Precedent is set.
+  static void MiseAJourV(TElt* e, bool Suivant, bool Precedent);
+  // Every element of the first nbCV tracks, each end time solved once.
+  static void MiseAJourVTotale();
+  // Links e to the element at Index in the track NumCV of Table (-1: no link).
+  static void Synchronise(TElt* e, int NumCV, TListeCV* Table, int Index, TFenDessin* pFen);
+  // Takes the selected element, or its father, as the father of the next synchronisation.
+  bool PreleveSynchro();
+  // Cuts e from its father; e stays a time anchor at the time it had.
+  void SupprSynchro(TElt* e);
 
   TFenCadre2* pFenCadre;
   TFenListe* pFenListe;

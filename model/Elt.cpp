@@ -34,11 +34,6 @@ void TElt::Setp2Param(const TPointf& p) {
   y.SetParam(p.y);
 }
 
-void TElt::Sett2(float t) {
-  t2.SetParam(t);
-  if (pBD) pBD->SetDlgItemText(IDC_T, std::to_string(Tronque(t)));
-}
-
 float TElt::Gett2Param() const {
   // A child's time is its father's; a father never has a father, so this goes one level.
   return pPere ? pPere->Gett2Param() : t2.GetParam();

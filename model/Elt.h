@@ -51,6 +51,9 @@ public:
   virtual TPointf Getp2Param() const { return TPointf(x.GetParam(), y.GetParam()); }
   virtual void Sett2Param(float t) { t2.SetParam(t); }
   virtual void Sett2(float t);
+  virtual bool Sett2(TElt* pere, int n);
+  virtual void Sett2();
+  virtual float Gett2();
   virtual float Gett2Param() const;
   virtual void SetV(float v);
   virtual float GetV() const { return V.GetParam(); }
@@ -65,9 +68,13 @@ public:
   virtual void CloseBD();
   virtual void Supprime();
   virtual bool IsCalculV() const { return false; }
+  virtual void CalculV();
+  virtual void CalculT();
   virtual float CalculLongueur() = 0;
   virtual TColor GetCouleur() const;
   virtual float GetDureeConstante() const = 0;
+  virtual void GetDistanceDuree(int* Distance, int* Duree);
+  virtual TElt* GetEltT();
   virtual TElt* Copie(TListeCV* l, bool Lien) = 0;
   virtual void Copie2(TElt* c, bool Lien);
   virtual void Transforme(TPointf Origine, TPointf Destination, int Mode);
@@ -90,6 +97,11 @@ public:
   bool SurPlace = false;
   float DureeConstante = 0;
   TFenListe* pFenListe;
+
+  // The element is in the track it names. A node knows its list, so this needs no walk.
+  bool EstDansListe() const { return pListeCV && GetpListe() == pListeCV; }
+  // The pass of TFenDessin::MiseAJourV that last took this element as its starting point.
+  unsigned PassageMiseAJourV = 0;
 
 protected:
   // The end point of the copy: the stored one, truncated to whole units.

@@ -31,6 +31,8 @@ public:
   // Shows the constraint on its button and the read-only state of the fields it fixes.
   virtual void SetContrainte() = 0;
   virtual void SetContrainteAngle() { SetContrainte(); }
+  // Brings the bar in line with a constraint that the element changed by itself.
+  virtual void MiseAJourContrainte() = 0;
   // Cancels the form, as closing the dialog does, before the bar is destroyed.
   virtual void CloseWindow(int retour) = 0;
 

@@ -21,6 +21,7 @@ public:
   }
   void SetContrainte() override { ++RafraichisContrainte; }
   void SetContrainteAngle() override { ++RafraichisAngle; }
+  void MiseAJourContrainte() override { ++MisesAJourContrainte; }
   void CloseWindow(int) override { ++Fermetures; }
 
   std::map<int, std::string> Champs;
@@ -29,6 +30,7 @@ public:
   int Repeints = 0;
   int RafraichisContrainte = 0;
   int RafraichisAngle = 0;
+  int MisesAJourContrainte = 0;
   int Fermetures = 0;
   bool* Detruit;
 };
