@@ -17,6 +17,7 @@ TCurseur TFenDessin::CursorType = TCurseur::Fleche;
 int TFenDessin::nCV = 0;
 bool TFenDessin::MAJPermanente = false;
 bool TFenDessin::MAJUp = true;
+TImpression TFenDessin::Imp;
 
 void TFenDessin::ReinitialiseStatiques() {
   EchIE = 1.0f;
@@ -30,6 +31,7 @@ void TFenDessin::ReinitialiseStatiques() {
   nCV = 0;
   MAJPermanente = false;
   MAJUp = true;
+  Imp = TImpression();
 }
 
 TFenDessin::TFenDessin(TFenCadre2* cadre, TFenListe* liste, int num)

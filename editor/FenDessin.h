@@ -4,6 +4,7 @@
 // sheet forwards its events here and gives it the size of its client area.
 #include <string>
 
+#include "editor/Impression.h"
 #include "model/Types.h"
 #include "platform/Dialogues.h"
 
@@ -71,6 +72,7 @@ public:
   static int nCV;
   static bool MAJPermanente;
   static bool MAJUp;
+  static TImpression Imp;
 
   static void ReinitialiseStatiques();
 };

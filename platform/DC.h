@@ -48,6 +48,9 @@ public:
   virtual void SetWindowExt(const TSize& ext) = 0;
   virtual void SetViewportExt(const TSize& ext) = 0;
   virtual void SetWindowOrg(const TPoint& origine) = 0;
+  // The extents last set, which give the scale of the logical mode.
+  virtual TSize GetWindowExt() const = 0;
+  virtual TSize GetViewportExt() const = 0;
 
   virtual void SelectObject(const TPen& pen) = 0;
   virtual void SelectObject(const TBrush& brush) = 0;

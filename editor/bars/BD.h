@@ -15,6 +15,18 @@ enum TControleBD : int {
   IDC_Y = 503,
   IDC_T = 504,
   IDC_V = 505,
+  IDC_GAUCHE = 508,         // side of an axel
+  IDC_DUREE = 509,          // duration; the radius on the arc bars
+  IDC_RAYON = 509,
+  IDC_ANGLE = 510,          // angle in degrees
+  IDC_TYPE_ARC = 511,
+  IDC_TYPE_POSE = 512,
+  IDC_Z = 513,
+  IDC_VECTEUR_Z = 514,      // 514 to 516: x, y, z
+  IDC_VECTEUR_Y = 517,      // 517 to 519: x, y, z
+  IDC_TRANSFORMATION = 520,
+  IDC_ANGLE_CUMULE = 521,
+  IDC_ANGLE_REVO = 522,
 };
 
 class TBD {

@@ -18,8 +18,16 @@ public:
   };
 
   void SetMapMode(TMapMode mode) override { Note("SetMapMode", {static_cast<int>(mode)}); }
-  void SetWindowExt(const TSize& e) override { Note("SetWindowExt", {e.cx, e.cy}); }
-  void SetViewportExt(const TSize& e) override { Note("SetViewportExt", {e.cx, e.cy}); }
+  void SetWindowExt(const TSize& e) override {
+    ExtFenetre = e;
+    Note("SetWindowExt", {e.cx, e.cy});
+  }
+  void SetViewportExt(const TSize& e) override {
+    ExtVue = e;
+    Note("SetViewportExt", {e.cx, e.cy});
+  }
+  TSize GetWindowExt() const override { return ExtFenetre; }
+  TSize GetViewportExt() const override { return ExtVue; }
   void SetWindowOrg(const TPoint& p) override { Note("SetWindowOrg", {p.x, p.y}); }
   void SelectObject(const TPen& pen) override {
     Note("Pen", {static_cast<int>(pen.Couleur.GetValue()), pen.Largeur, static_cast<int>(pen.Trait)});
@@ -51,6 +59,8 @@ public:
   }
 
   std::vector<Appel> Appels;
+  TSize ExtFenetre{1, 1};
+  TSize ExtVue{1, 1};
 
 private:
   void Note(std::string nom, std::vector<int> v, std::string texte = {}) {
