@@ -144,20 +144,35 @@ float TElt::LongueurDroite() const {
   return std::sqrt(dx * dx + dy * dy);
 }
 
+bool TElt::SansLongueur() const {
+  const TElt* prec = GetEltPrecedent();
+  if (!prec) return false;
+  const TPointf a = prec->Getp2Param();
+  const TPointf b = Getp2Param();
+  return std::fabs(a.x - b.x) <= EPS && std::fabs(a.y - b.y) <= EPS;
+}
+
+TVect TElt::DirectionPrecedente() {
+  TElt* e = GetEltPrecedent();
+  while (e && e->DelegueVDir()) e = e->GetEltPrecedent();
+  return e ? e->GetVDir() : TVect(0, 1);
+}
+
+void TElt::PasseAuPrecedent(TPointf p) {
+  for (TElt* e = GetEltPrecedent(); e; e = e->GetEltPrecedent())
+    if (!e->RelaiePoint(p)) {
+      e->Setpp2(p);
+      return;
+    }
+}
+
 TVect TElt::GetVDirDroite() {
-  // A line of no length flies on in the direction of what came before it. Walking back
-  // over such lines is a loop, not a recursion, so a long run of them cannot exhaust the stack.
-  TElt* e = this;
-  for (;;) {
-    TElt* prec = e->GetEltPrecedent();
-    if (!prec) return TVect(0, 1);  // nothing before: the kite stands as at its start point
-    const TPointf a = prec->Getp2Param();
-    const TPointf b = e->Getp2Param();
-    if (std::fabs(a.x - b.x) > EPS || std::fabs(a.y - b.y) > EPS)
-      return TVect(Tronque(b.x - a.x), Tronque(b.y - a.y));
-    if (!prec->EstDroit()) return prec->GetVDir();
-    e = prec;
-  }
+  // A line of no length flies on in the direction of what came before it.
+  if (!GetEltPrecedent()) return TVect(0, 1);  // nothing before: as from a start point
+  if (SansLongueur()) return DirectionPrecedente();
+  const TPointf a = GetEltPrecedent()->Getp2Param();
+  const TPointf b = Getp2Param();
+  return TVect(Tronque(b.x - a.x), Tronque(b.y - a.y));
 }
 
 bool TElt::ClicDroit(int Feuille, const TPoint& p) const {

@@ -117,13 +117,26 @@ protected:
   // The values of a record common to the classes with a speed, before the bar's refresh.
   void SetValeurs(int contrainte, float t, float v);
 
-  // Shared by the straight classes, which differ only in how they are drawn and written.
+  // Shared by the classes flown along the straight line from their start to their end.
   float LongueurDroite() const;
   TVect GetVDirDroite();
   bool ClicDroit(int Feuille, const TPoint& p) const;
   void TranslateDroit(int dx, int dy, bool AvecDebut);
-  // True for the classes whose direction is the straight line from their start to their end.
-  virtual bool EstDroit() const { return false; }
+  // The end lies on the start, within EPS on both axes.
+  bool SansLongueur() const;
+
+  // True while the element's direction is only that of the element before it.
+  virtual bool DelegueVDir() { return false; }
+  // The direction of the first element before this one that has a direction of its own.
+  // A loop rather than a recursion, so that a long run of such elements cannot exhaust
+  // the stack; a track with nothing before gives straight up, as from a start point.
+  TVect DirectionPrecedente();
+
+  // What an element that stands on its predecessor's end does with a point that is passed
+  // back to it: true when it stored the point and passes it further back, perhaps changed.
+  virtual bool RelaiePoint(TPointf&) { return false; }
+  // Sets p as the end of the element before this one, through the elements that relay it.
+  void PasseAuPrecedent(TPointf p);
 };
 
 // Background colours of a property bar in the strip.

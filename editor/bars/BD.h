@@ -42,7 +42,12 @@ public:
   virtual void SetCouleurFond(TColor c) = 0;
   // Shows the constraint on its button and the read-only state of the fields it fixes.
   virtual void SetContrainte() = 0;
+  // The refreshes of the bars that show more than the constraint: by default the same.
   virtual void SetContrainteAngle() { SetContrainte(); }
+  virtual void SetContrainteDroiteGaucheDuree() { SetContrainte(); }
+  virtual void SetContrainteDureeAngle() { SetContrainte(); }
+  virtual void SetContrainteDuree() { SetContrainte(); }
+  virtual void SetContrainteDureeType() { SetContrainte(); }
   // Brings the bar in line with a constraint that the element changed by itself.
   virtual void MiseAJourContrainte() = 0;
   // Cancels the form, as closing the dialog does, before the bar is destroyed.

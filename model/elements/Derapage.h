@@ -17,5 +17,5 @@ public:
   TElt* Copie(TListeCV* l, bool Lien) override;
 
 protected:
-  bool EstDroit() const override { return true; }
+  bool DelegueVDir() override { return SansLongueur(); }
 };

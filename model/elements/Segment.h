@@ -17,7 +17,7 @@ public:
   TElt* Copie(TListeCV* l, bool Lien) override;
 
 protected:
-  bool EstDroit() const override { return true; }
+  bool DelegueVDir() override { return SansLongueur(); }
 };
 
 class TSegRevo : public TSegment {

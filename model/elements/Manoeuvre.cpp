@@ -1,0 +1,37 @@
+#include "model/elements/Manoeuvre.h"
+
+TManoeuvre::TManoeuvre(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, int contrainte,
+                       float duree)
+    : TElt(p, fen, fenListe, liste) {
+  Contrainte = contrainte;
+  DureeConstante = duree;
+  SurPlace = true;
+}
+
+TPointf TManoeuvre::PointDuPrecedent() const {
+  const TElt* prec = GetEltPrecedent();
+  return prec ? prec->Getp2Param() : Getp2Param();
+}
+
+bool TManoeuvre::RelaiePoint(TPointf& p) {
+  TElt::Setpp2(p);
+  return true;
+}
+
+void TManoeuvre::Setpp2(const TPointf& p) {
+  TPointf q = p;
+  RelaiePoint(q);
+  PasseAuPrecedent(q);
+}
+
+TPointf TManoeuvre::Getp2() {
+  const TPointf p = PointDuPrecedent();
+  Setpp2(p);
+  return p;
+}
+
+void TManoeuvre::SetTempsDuree(int contrainte, float t, float duree) {
+  Contrainte = contrainte;
+  Sett2(t);
+  DureeConstante = duree;
+}

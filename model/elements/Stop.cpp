@@ -1,0 +1,20 @@
+#include "model/elements/Stop.h"
+
+#include "editor/bars/BD.h"
+
+TStop::TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
+    : TManoeuvre(p, fen, fenListe, liste, CONTRAINTE_DUREE, 100) {}
+
+TStop::TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool)
+    : TStop(p, fen, fenListe, liste) {}
+
+void TStop::Set(int, int contrainte, float t, float duree) {
+  SetTempsDuree(contrainte, t, duree);
+  if (pBD) pBD->SetContrainteDuree();
+}
+
+TElt* TStop::Copie(TListeCV* l, bool Lien) {
+  TElt* c = CopieDe<TStop>(l, Lien);
+  c->DureeConstante = DureeConstante;
+  return c;
+}

@@ -1,0 +1,13 @@
+#pragma once
+// A stop: the kite holds still, nose up.
+#include "model/elements/Manoeuvre.h"
+
+class TStop : public TManoeuvre {
+public:
+  TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
+  TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+
+  void Set(int, int contrainte, float t, float duree);
+  TVect GetVDir() override { return TVect(0, 1); }
+  TElt* Copie(TListeCV* l, bool Lien) override;
+};
