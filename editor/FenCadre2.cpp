@@ -28,6 +28,20 @@ bool TFenCadre2::AddFeuille() {
   return true;
 }
 
+bool TFenCadre2::InsereFeuille() {
+  if (nbFeuilles >= NB_FEUILLES_MAX || !pFenDesActive) return false;
+  const int n = pFenDesActive->Num;
+  TabFenDes.insert(TabFenDes.begin() + n, std::make_unique<TFenDessin>(this, pFenListe, n + 1));
+  TabOnglets.insert(TabOnglets.begin() + n, std::to_string(n + 1) + " - ");
+  ++nbFeuilles;
+  for (int i = n + 1; i < nbFeuilles; ++i) {
+    TabFenDes[static_cast<std::size_t>(i)]->SetNum(i + 1);
+    TabOnglets[static_cast<std::size_t>(i)] = std::to_string(i + 1) + " - ";
+  }
+  pFenDesActive = GetFeuille(n);
+  return true;
+}
+
 bool TFenCadre2::CanClose() {
   // Nothing tracks unsaved changes: this box is the only guard.
   return Dialogues().MessageBox("Fermeture Définitive ?", "CV", TBoutons::OKAnnuler, TIcone::Question) ==

@@ -22,6 +22,9 @@ public:
   void SetupWindow();
   // A new sheet after the last; false when the 200 sheets are all in use.
   bool AddFeuille();
+  // A new sheet after the active one, which it replaces as active; the sheets after it move
+  // up by one. False when the 200 sheets are all in use.
+  bool InsereFeuille();
   // Asks "Fermeture Définitive ?"; true when the user agrees to end the program.
   bool CanClose();
 

@@ -45,6 +45,14 @@ public:
   static void MiseAJourVTotale();
   // Links e to the element at Index in the track NumCV of Table (-1: no link).
   static void Synchronise(TElt* e, int NumCV, TListeCV* Table, int Index, TFenDessin* pFen);
+  // Reading of routine and figure files. One line, without its line end: with pListe null
+  // it joins the document (the routine reader), otherwise it is appended to pListe (the
+  // figure reader). The insertion reader builds into the six tracks of pTable instead.
+  void CreeElement(const char* ligne, TListeCV* pListe);
+  void CreeElementInsere(const char* ligne, TListeCV* pTable);
+  // The elements of a figure file, in a new list; empty when the file cannot be read.
+  TListeCV* OuvrirFigure(const char* Fichier);
+
   // Takes the selected element, or its father, as the father of the next synchronisation.
   bool PreleveSynchro();
   // Cuts e from its father; e stays a time anchor at the time it had.

@@ -1,0 +1,305 @@
+// The readers of the routine and figure text format.
+//
+// Choices for what the format leaves open, made so that no file can crash the program,
+// read out of bounds or hang:
+// - a line of more than 255 characters is not read, and the status line says so;
+// - a line whose fields, up to the last field of its record, are not all there and
+//   readable (a number too large for an int counts as unreadable) is not read either;
+// - a kite number outside 0 to 5 or a sheet number outside 1 to 199 drops the line;
+// - a father's kite or index that names no element makes no link (TFenDessin::Synchronise);
+// - a figure that contains itself, directly or through others, is read as an empty figure.
+#include "files/Lecture.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "editor/FenCadre2.h"
+#include "editor/FenDessin.h"
+#include "files/Lignes.h"
+#include "model/Document.h"
+#include "model/Outils.h"
+#include "model/elements/AllerA.h"
+#include "model/elements/Arc.h"
+#include "model/elements/Axel.h"
+#include "model/elements/Derapage.h"
+#include "model/elements/Figure.h"
+#include "model/elements/Pose.h"
+#include "model/elements/Pt.h"
+#include "model/elements/Rot.h"
+#include "model/elements/Segment.h"
+#include "model/elements/Stop.h"
+#include "platform/Dialogues.h"
+
+namespace {
+
+enum class TRecord { Segment, SegRevo, Point, Axel, Rot, Arc, ArcRevo, Stop, Pose, Derapage, T540, AllerA, Figure };
+
+struct TDefinition {
+  std::string_view Nom;
+  TRecord Record;
+  std::string_view Champs;  // the class fields after the common ones: f float, d int, s word
+};
+
+// In the order in which a line's first word is compared.
+constexpr std::array<TDefinition, 13> Definitions = {{
+    {"SEGMENT", TRecord::Segment, ""},
+    {"SEGREVO", TRecord::SegRevo, "f"},
+    {"POINT", TRecord::Point, ""},
+    {"AXEL", TRecord::Axel, "df"},
+    {"ROT", TRecord::Rot, "ff"},
+    {"ARC", TRecord::Arc, "ff"},
+    {"ARCREVO", TRecord::ArcRevo, "fff"},
+    {"STOP", TRecord::Stop, "f"},
+    {"POSE", TRecord::Pose, "fd"},
+    {"DERAPAGE", TRecord::Derapage, ""},
+    {"540", TRecord::T540, "df"},
+    {"ALLERA", TRecord::AllerA, "ffffffff"},
+    {"FIGURE", TRecord::Figure, "fsd"},
+}};
+
+// One element line, as read.
+struct TLigne {
+  const TDefinition* Def = nullptr;
+  int Cv = 0, Num = 0, Contrainte = 0, Feuille = 0;
+  float t = 0, x = 0, y = 0, V = 0;
+  std::vector<float> Reels;
+  std::vector<int> Entiers;
+  std::string Mot;
+  int CvPere = -1, IndexPere = -1;
+};
+
+// The header lines: the team and the music, in any reader mode and anywhere in the file.
+bool LitEntete(const std::string& mot, TLecteurChamps& champs) {
+  if (mot == "TEAM") {
+    int team = 0;
+    if (champs.Entier(team)) Team = team;
+    return true;
+  }
+  if (mot == "MUSIQUE") {
+    std::string chemin;
+    if (champs.Mot(chemin)) {
+      const std::size_t n = std::min(chemin.size(), static_cast<std::size_t>(TAILLE_FICHIER_MUSIQUE - 1));
+      chemin.copy(_FichierMusique, n);
+      _FichierMusique[n] = '\0';
+    }
+    return true;
+  }
+  return false;
+}
+
+void SignaleIllisible(const TLigne& l) {
+  TFenDessin::MessageErreur("Ligne " + std::string(l.Def->Nom) + " illisible : ignorée");
+}
+
+// Reads the fields of an element line after its first word; false when the line is broken.
+bool LitChamps(TLecteurChamps& champs, TLigne& l) {
+  if (!(champs.Entier(l.Cv) && champs.Entier(l.Num) && champs.Entier(l.Contrainte) && champs.Entier(l.Feuille) &&
+        champs.Reel(l.t) && champs.Reel(l.x) && champs.Reel(l.y) && champs.Reel(l.V)))
+    return false;
+  for (char c : l.Def->Champs) {
+    bool lu = false;
+    if (c == 'f') {
+      float f = 0;
+      lu = champs.Reel(f);
+      l.Reels.push_back(f);
+    } else if (c == 'd') {
+      int d = 0;
+      lu = champs.Entier(d);
+      l.Entiers.push_back(d);
+    } else {
+      lu = champs.Mot(l.Mot);
+    }
+    if (!lu) return false;
+  }
+  // The synchronisation tail is optional; a kite without its index makes no link.
+  if (l.Def->Record != TRecord::Point && champs.Entier(l.CvPere) && !champs.Entier(l.IndexPere)) l.CvPere = -1;
+  return true;
+}
+
+// Builds the element of a line on `fen`, for the track `liste`, without listing it.
+TElt* Construit(const TLigne& l, TFenDessin* fen, TListeCV* liste) {
+  const TPoint p(Tronque(l.x), Tronque(l.y));
+  const auto& r = l.Reels;
+  const auto& d = l.Entiers;
+  switch (l.Def->Record) {
+    case TRecord::Point: return new TPt(p, fen, nullptr, liste, true);
+    case TRecord::Segment: return new TSegment(p, fen, nullptr, liste, true);
+    case TRecord::Derapage: return new TDerapage(p, fen, nullptr, liste, true);
+    case TRecord::SegRevo: return new TSegRevo(p, fen, nullptr, liste, r[0], true);
+    case TRecord::Arc: return new TArc(p, fen, nullptr, liste, true);
+    case TRecord::ArcRevo: return new TArcRevo(p, fen, nullptr, liste, r[2], true);
+    case TRecord::Axel: return new TAxel(p, fen, nullptr, liste, true);
+    case TRecord::T540: return new T540(p, fen, nullptr, liste, true);
+    case TRecord::Rot: return new TRot(p, fen, nullptr, liste, r[1], true);
+    case TRecord::Stop: return new TStop(p, fen, nullptr, liste, true);
+    case TRecord::Pose: return new TPose(p, fen, nullptr, liste, true);
+    case TRecord::AllerA: return new TAllerA(p, fen, nullptr, liste, true);
+    case TRecord::Figure: return new TFigure(p, fen, nullptr, liste, l.Mot.c_str(), true);
+  }
+  (void)d;
+  return nullptr;
+}
+
+// Gives the element the values of its line. Only the lines and arcs take the speed.
+void Remplit(TElt* e, const TLigne& l) {
+  const auto& r = l.Reels;
+  const auto& d = l.Entiers;
+  switch (l.Def->Record) {
+    case TRecord::Point: static_cast<TPt*>(e)->Set(l.Num, l.Contrainte, l.t); break;
+    case TRecord::Segment: static_cast<TSegment*>(e)->Set(l.Num, l.Contrainte, l.t, l.V); break;
+    case TRecord::Derapage: static_cast<TDerapage*>(e)->Set(l.Num, l.Contrainte, l.t, l.V); break;
+    case TRecord::SegRevo: static_cast<TSegRevo*>(e)->Set(l.Num, l.Contrainte, l.t, l.V, r[0]); break;
+    case TRecord::Arc: static_cast<TArc*>(e)->Set(l.Num, l.Contrainte, l.t, l.V, r[0], r[1]); break;
+    case TRecord::ArcRevo: static_cast<TArcRevo*>(e)->Set(l.Num, l.Contrainte, l.t, l.V, r[0], r[1], r[2]); break;
+    case TRecord::Axel:
+    case TRecord::T540: static_cast<TManoeuvreCote*>(e)->Set(l.Num, l.Contrainte, l.t, d[0] != 0, r[0]); break;
+    case TRecord::Rot: static_cast<TRot*>(e)->Set(l.Num, l.Contrainte, l.t, r[0], r[1]); break;
+    case TRecord::Stop: static_cast<TStop*>(e)->Set(l.Num, l.Contrainte, l.t, r[0]); break;
+    case TRecord::Pose: static_cast<TPose*>(e)->Set(l.Num, l.Contrainte, l.t, r[0], d[0]); break;
+    case TRecord::AllerA:
+      static_cast<TAllerA*>(e)->Set(l.Num, l.Contrainte, l.t, r[0], r[1], r[2], r[3], r[4], r[5], r[6], r[7]);
+      break;
+    case TRecord::Figure: static_cast<TFigure*>(e)->Set(l.Num, l.Contrainte, l.t, r[0], d[0]); break;
+  }
+}
+
+// Reads an element line; false when it is none (unknown word, header, or broken line).
+bool LitElement(const char* texte, bool avecEntete, TLigne& l) {
+  TLecteurChamps champs(texte);
+  std::string mot;
+  if (!champs.Mot(mot)) return false;
+  if (avecEntete && LitEntete(mot, champs)) return false;
+  const auto def = std::find_if(Definitions.begin(), Definitions.end(), [&](const TDefinition& d) { return d.Nom == mot; });
+  if (def == Definitions.end()) return false;  // a comment or a record of another program
+  l.Def = &*def;
+  if (!LitChamps(champs, l) || l.Cv < 0 || l.Cv >= NB_CV_MAX || l.Feuille < 1 || l.Feuille >= NB_FEUILLES_MAX) {
+    SignaleIllisible(l);
+    return false;
+  }
+  return true;
+}
+
+bool FigureExiste(const TLigne& l) {
+  std::error_code erreur;
+  if (std::filesystem::is_regular_file(l.Mot, erreur)) return true;
+  TFenDessin::MessageErreur(" Figure " + std::to_string(l.Num) + "  : fichier '" + l.Mot + "' inexistant");
+  return false;
+}
+
+// The figure files being read, innermost last: a figure met again inside itself is empty.
+std::vector<std::filesystem::path> FiguresOuvertes;
+constexpr std::size_t IMBRICATION_MAX = 16;
+
+}  // namespace
+
+void TFenDessin::CreeElement(const char* ligne, TListeCV* pListe) {
+  TLigne l;
+  if (!LitElement(ligne, true, l)) return;
+  if (pListe) {
+    // A figure's inner element: its sheet and kite are rebound by the figure.
+    TElt* e = Construit(l, this, pListe);
+    pListe->Append(e);
+    if (l.Def->Record == TRecord::Pose) e->Setp2Param(TPointf(e->Getp2Param().x, static_cast<float>(Tronque(l.y))));
+    Remplit(e, l);
+    return;
+  }
+  if (!pFenCadre) return;
+  if (l.Feuille > NbFenDesOuvertes) NbFenDesOuvertes = l.Feuille;
+  while (pFenCadre->nbFeuilles <= l.Feuille)
+    if (!pFenCadre->AddFeuille()) return;
+  if (l.Def->Record == TRecord::Figure && !FigureExiste(l)) return;
+  TFenDessin* feuille = pFenCadre->GetFeuille(l.Feuille - 1);
+  TListeCV* liste = &TabLElt[l.Cv];
+  TElt* e = Construit(l, feuille, liste);
+  liste->Append(e);
+  Remplit(e, l);
+  if (l.Def->Record != TRecord::Point) Synchronise(e, l.CvPere, TabLElt, l.IndexPere, feuille);
+  if (l.Cv >= nbCV) nbCV = l.Cv + 1;
+}
+
+void TFenDessin::CreeElementInsere(const char* ligne, TListeCV* pTable) {
+  TLigne l;
+  if (!pFenCadre || !pTable || !LitElement(ligne, false, l)) return;
+  if (l.Feuille > NbFenDesOuvertes) {
+    NbFenDesOuvertes = l.Feuille;
+    pFenCadre->InsereFeuille();
+  }
+  const int numFeuille = NumFActive + l.Feuille;
+  if (numFeuille < 1 || numFeuille > pFenCadre->nbFeuilles) {
+    SignaleIllisible(l);
+    return;
+  }
+  if (l.Def->Record == TRecord::Figure && !FigureExiste(l)) return;
+  TFenDessin* feuille = pFenCadre->GetFeuille(numFeuille - 1);
+  TListeCV* liste = &pTable[l.Cv];
+  if (l.Def->Record == TRecord::Point) {
+    // The start of the inserted track joins it to what comes before.
+    auto* s = new TSegment(TPoint(Tronque(l.x), Tronque(l.y)), feuille, nullptr, liste, true);
+    liste->Append(s);
+    s->Set(l.Num, CONTRAINTE_VCONSTANTE, l.t, l.V);
+    return;
+  }
+  TElt* e = Construit(l, feuille, liste);
+  liste->Append(e);
+  Remplit(e, l);
+  Synchronise(e, l.CvPere, pTable, l.IndexPere, feuille);
+}
+
+TListeCV* TFenDessin::OuvrirFigure(const char* Fichier) {
+  auto* liste = new TListeCV;
+  std::error_code erreur;
+  std::filesystem::path chemin = std::filesystem::weakly_canonical(Fichier, erreur);
+  if (erreur) chemin = Fichier;
+  if (std::find(FiguresOuvertes.begin(), FiguresOuvertes.end(), chemin) != FiguresOuvertes.end() ||
+      FiguresOuvertes.size() >= IMBRICATION_MAX) {
+    MessageErreur(" Figure '" + std::string(Fichier) + "' : elle se contient elle-même, ignorée");
+    return liste;
+  }
+  const std::optional<std::string> contenu = LitFichier(Fichier);
+  if (!contenu) {
+    Dialogues().MessageBox("Problème d'ouverture figure '!!! ", " Ouvrir Figure");
+    return liste;
+  }
+  FiguresOuvertes.push_back(chemin);
+  DecoupeLignes(
+      *contenu, [&](std::string_view ligne) { CreeElement(std::string(ligne).c_str(), liste); },
+      [&](int numero) { MessageErreur("Figure '" + std::string(Fichier) + "' : ligne " + std::to_string(numero) + " trop longue : ignorée"); });
+  FiguresOuvertes.pop_back();
+  return liste;
+}
+
+bool LitRoutine(TFenCadre2& cadre, const std::string& chemin) {
+  TFenDessin* fen = cadre.GetFeuille(0);
+  _FichierMusique[0] = '\0';
+  Team = 1;
+  ChargementFichierEnCours = true;
+  // Every kite, not only those in use: nothing of the previous routine may stay behind.
+  for (int i = 0; i < NB_CV_MAX; ++i) {
+    // From the front: each removal then finds its element at once.
+    while (TNoeud* n = TabLElt[i].Premier()) static_cast<TElt*>(n)->Supprime();
+    if (i < nbCV) AncTabLElt[i].Vide();
+  }
+  TFenDessin::Fonction = FONCTION_MODIFICATION;
+  TFenDessin::Etape = 1;
+  nbCV = 1;
+  TFenDessin::pEltCourant = TFenDessin::pEltCourant2 = TFenDessin::pEltSel = nullptr;
+  TElt::NbElt = 0;
+  NbFenDesOuvertes = 0;
+  for (int i = 0; i < cadre.nbFeuilles; ++i) cadre.GetFeuille(i)->NbSynchro = 0;
+
+  const std::optional<std::string> contenu = LitFichier(chemin);
+  if (!contenu) {
+    ChargementFichierEnCours = false;
+    Dialogues().MessageBox("Problème d'ouverture !!! ", " Ouvrir routine");
+    return false;
+  }
+  DecoupeLignes(
+      *contenu, [&](std::string_view ligne) { fen->CreeElement(std::string(ligne).c_str(), nullptr); },
+      [&](int numero) { TFenDessin::MessageErreur("Ligne " + std::to_string(numero) + " trop longue : ignorée"); });
+  ChargementFichierEnCours = false;
+  return true;
+}

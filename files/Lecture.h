@@ -1,0 +1,10 @@
+#pragma once
+// Opening a routine: the document is emptied, then filled from the file's lines.
+#include <string>
+
+class TFenCadre2;
+
+// Reads the routine at `chemin` into the document, through the frame's first sheet. Returns
+// false, with the document emptied and a message box shown, when the file cannot be read.
+// Nothing is solved: the times and speeds are those the file holds.
+bool LitRoutine(TFenCadre2& cadre, const std::string& chemin);

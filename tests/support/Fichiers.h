@@ -1,0 +1,50 @@
+#pragma once
+// A scratch folder for tests that read and write files, made the current directory while the
+// test runs, since figure files are looked up by their bare name.
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "editor/FenCadre2.h"
+#include "editor/FenDessin.h"
+#include "files/Lecture.h"
+#include "files/Lignes.h"
+#include "support/DocumentTest.h"
+
+class FichiersTest : public DocumentTest {
+protected:
+  void SetUp() override {
+    DocumentTest::SetUp();
+    avant = std::filesystem::current_path();
+    dossier = std::filesystem::temp_directory_path() /
+              ("trajectoires-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    std::filesystem::remove_all(dossier);
+    std::filesystem::create_directories(dossier);
+    std::filesystem::current_path(dossier);
+  }
+  void TearDown() override {
+    std::filesystem::current_path(avant);
+    std::filesystem::remove_all(dossier);
+    DocumentTest::TearDown();
+  }
+
+  static void Ecrit(const std::string& nom, const std::string& texte) {
+    std::ofstream(nom, std::ios::binary) << texte;
+  }
+  static std::string Donnee(const std::string& nom) {
+    return LitFichier(std::string(TRAJ_TEST_DATA) + "/" + nom).value_or("");
+  }
+  // Reads `texte` as a routine file into the document, through a new editor frame.
+  bool Ouvre(const std::string& texte) {
+    Ecrit("routine.rou", texte);
+    if (!cadre) {
+      cadre = std::make_unique<TFenCadre2>();
+      cadre->SetupWindow();
+    }
+    return LitRoutine(*cadre, "routine.rou");
+  }
+
+  std::filesystem::path avant;
+  std::filesystem::path dossier;
+  std::unique_ptr<TFenCadre2> cadre;
+};
