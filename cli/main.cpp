@@ -10,9 +10,11 @@ void Aide(std::FILE* sortie) {
   std::fprintf(sortie,
                "Usage: trajectoires-cli COMMANDE [ARGUMENTS...]\n"
                "       trajectoires-cli --help\n\n"
-               "Outils en ligne de commande pour les routines (.rou) et figures (.fig).\n\n"
+               "Outils en ligne de commande pour les routines (.rou) et figures (.fig).\n"
+               "Les figures citées par une routine sont cherchées par leur nom, dans le dossier courant.\n"
+               "Les messages de l'éditeur vont sur la sortie d'erreur ; code de sortie 0 si OUT est écrit,\n"
+               "1 si IN ne peut être lu ou OUT écrit, 2 pour une erreur d'usage.\n\n"
                "Commandes :\n");
-  if (Commandes().empty()) std::fprintf(sortie, "  (aucune pour l'instant)\n");
   for (const TCommande& c : Commandes())
     std::fprintf(sortie, "  %-8s %-20s %s\n", c.Nom.c_str(), c.Usage.c_str(), c.Resume.c_str());
   std::fprintf(sortie, "  --help   %-20s affiche cette aide\n", "");
