@@ -134,6 +134,31 @@ void TElt::Transforme(TPointf Origine, TPointf Destination, int Mode) {
   }
 }
 
+void TElt::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  // An element outside any list or sheet, such as a start point made only to be written,
+  // counts as kite 0 on the first sheet: both exist in every document.
+  const int kite = pListeCV ? pListeCV->Num : 0;
+  const int feuille = pFen ? pFen->Num : 1;
+  Fichier += '\t' + std::to_string(kite) + '\t' + std::to_string(Num) + '\t' + std::to_string(Contrainte) + '\t' +
+             std::to_string(feuille - decalageFeuille) + '\t' + Gcvt(Gett2Param() - decalageTemps, 6) + "\t\t" +
+             Gcvt(x.GetParam(), 4) + "  " + Gcvt(y.GetParam(), 4) + "\t\t" + Gcvt(V.GetParam(), 4) + '\t';
+}
+
+void TElt::Enregistrer2(std::string& Fichier) {
+  Fichier += '\t';
+  // A father outside any list has no index to give: the line goes without its link.
+  if (pPere && pPere->pListeCV) {
+    TListeCV& l = *pPere->pListeCV;
+    Fichier += '\t' + std::to_string(l.Num) + '\t' + std::to_string(l.GetIndex(pPere) - l.IndexPremier);
+  }
+  Fichier += '\n';
+}
+
+void TElt::EnregistrerDebut(std::string& Fichier, const char* Nom, int decalageFeuille, float decalageTemps) {
+  Fichier += Nom;
+  TElt::Enregistrer(Fichier, decalageFeuille, decalageTemps);
+}
+
 float TElt::LongueurDroite() const {
   const TElt* prec = GetEltPrecedent();
   if (!prec) return 0;

@@ -4,6 +4,8 @@
 // An element stores its end point and end time; its start is the end of the element before
 // it in the track. Drawing, property bars, solving, writing and flight operations are added
 // to this class by the parts of the program that own them.
+#include <string>
+
 #include "model/ListeCV.h"
 #include "model/Param.h"
 #include "model/Types.h"
@@ -78,6 +80,12 @@ public:
   virtual TElt* Copie(TListeCV* l, bool Lien) = 0;
   virtual void Copie2(TElt* c, bool Lien);
   virtual void Transforme(TPointf Origine, TPointf Destination, int Mode);
+  // The element's line of a routine or figure file, appended to Fichier. The base writes the
+  // common fields only; each class writes its record name before them, then its own fields
+  // and the synchro tail. The sheet and time are written less the two shifts.
+  virtual void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps);
+  // The synchro tail and the line feed.
+  virtual void Enregistrer2(std::string& Fichier);
 
   int Num;
   int Contrainte = CONTRAINTE_TEMPS;
@@ -114,6 +122,9 @@ protected:
     Copie2(c, Lien);
     return c;
   }
+  // The record name, which carries its own blanks, then the common fields.
+  void EnregistrerDebut(std::string& Fichier, const char* Nom, int decalageFeuille, float decalageTemps);
+
   // The values of a record common to the classes with a speed, before the bar's refresh.
   void SetValeurs(int contrainte, float t, float v);
 

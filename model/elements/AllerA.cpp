@@ -1,6 +1,7 @@
 #include "model/elements/AllerA.h"
 
 #include "editor/bars/BD.h"
+#include "model/Nombres.h"
 #include "model/Outils.h"
 
 TAllerA::TAllerA(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
@@ -56,4 +57,11 @@ TElt* TAllerA::Copie(TListeCV* l, bool Lien) {
   c->yY = yY;
   c->zY = zY;
   return c;
+}
+
+void TAllerA::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "ALLERA ", decalageFeuille, decalageTemps);
+  // The duration, then the two axes of the kite at the target and its height.
+  for (float v : {DureeConstante, xZ, yZ, zZ, xY, yY, zY, z}) Fichier += '\t' + Gcvt(v, 6);
+  Enregistrer2(Fichier);
 }

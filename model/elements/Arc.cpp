@@ -234,3 +234,15 @@ TElt* TArcRevo::Copie(TListeCV* l, bool Lien) {
   CopieChampsArc(static_cast<TArc*>(c));
   return c;
 }
+
+void TArc::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "ARC     ", decalageFeuille, decalageTemps);
+  Fichier += Gcvt(Rayon, 6) + "\t\t" + Gcvt(Angle, 6);
+  Enregistrer2(Fichier);
+}
+
+void TArcRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "ARCREVO ", decalageFeuille, decalageTemps);
+  Fichier += Gcvt(Rayon, 6) + '\t' + Gcvt(Angle, 6) + '\t' + Gcvt(AngleRevo, 6);
+  Enregistrer2(Fichier);
+}

@@ -1,6 +1,7 @@
 #include "model/elements/Axel.h"
 
 #include "editor/bars/BD.h"
+#include "model/Nombres.h"
 
 TManoeuvreCote::TManoeuvreCote(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
     : TManoeuvre(p, fen, fenListe, liste, CONTRAINTE_DUREE, 110) {}
@@ -18,4 +19,10 @@ void TManoeuvreCote::Transforme(TPointf Origine, TPointf Destination, int Mode) 
     Gauche = !Gauche;
     if (pBD) pBD->SetContrainteDroiteGaucheDuree();
   }
+}
+
+void TManoeuvreCote::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, NomEnregistrement(), decalageFeuille, decalageTemps);
+  Fichier += (Gauche ? "\t\t1\t\t" : "\t\t0\t\t") + Gcvt(DureeConstante, 6);
+  Enregistrer2(Fichier);
 }

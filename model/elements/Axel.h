@@ -11,10 +11,13 @@ public:
   TVect GetVDir() override { return Gauche ? TVect(-1, 0) : TVect(1, 0); }
   bool IsCalculV() const override { return true; }
   void Transforme(TPointf Origine, TPointf Destination, int Mode) override;
+  void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 
   bool Gauche = true;  // left when set, right otherwise
 
 protected:
+  // The name of the record, with its blanks: the two manoeuvres differ in nothing else.
+  virtual const char* NomEnregistrement() const = 0;
   template <class T>
   TElt* CopieCote(TListeCV* l, bool Lien) {
     auto* c = static_cast<TManoeuvreCote*>(CopieDe<T>(l, Lien));
@@ -29,6 +32,9 @@ public:
   TAxel(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste) : TManoeuvreCote(p, fen, fenListe, liste) {}
   TAxel(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool) : TAxel(p, fen, fenListe, liste) {}
   TElt* Copie(TListeCV* l, bool Lien) override { return CopieCote<TAxel>(l, Lien); }
+
+protected:
+  const char* NomEnregistrement() const override { return "AXEL   "; }
 };
 
 class T540 : public TManoeuvreCote {
@@ -36,4 +42,7 @@ public:
   T540(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste) : TManoeuvreCote(p, fen, fenListe, liste) {}
   T540(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool) : T540(p, fen, fenListe, liste) {}
   TElt* Copie(TListeCV* l, bool Lien) override { return CopieCote<T540>(l, Lien); }
+
+protected:
+  const char* NomEnregistrement() const override { return "540     "; }
 };

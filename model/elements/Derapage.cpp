@@ -16,3 +16,8 @@ void TDerapage::Set(int, int contrainte, float t, float v) {
 }
 
 TElt* TDerapage::Copie(TListeCV* l, bool Lien) { return CopieDe<TDerapage>(l, Lien); }
+
+void TDerapage::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "DERAPAGE", decalageFeuille, decalageTemps);
+  Enregistrer2(Fichier);
+}

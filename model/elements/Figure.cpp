@@ -4,6 +4,7 @@
 
 #include "editor/FenDessin.h"
 #include "editor/bars/BD.h"
+#include "model/Nombres.h"
 
 TFigure::TFigure(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool)
     : TElt(p, fen, fenListe, liste) {
@@ -146,4 +147,10 @@ TElt* TFigure::Copie(TListeCV* l, bool Lien) {
       c->pListeFig->Append(static_cast<TElt*>(n)->Copie(pListeCV, true));
   }
   return c;
+}
+
+void TFigure::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "FIGURE  ", decalageFeuille, decalageTemps);
+  Fichier += "\t" + Gcvt(DureeConstante, 6) + "\t" + NomFichier + "\t" + std::to_string(Transformation);
+  Enregistrer2(Fichier);
 }

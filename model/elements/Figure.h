@@ -30,6 +30,8 @@ public:
   void Translate(int dx, int dy, bool AvecDebut) override { TranslateDroit(dx, dy, AvecDebut); }
   void Transforme(TPointf Origine, TPointf Destination, int Mode) override;
   TElt* Copie(TListeCV* l, bool Lien) override;
+  // The inner elements are not written: the file is read again at each load.
+  void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 
   std::unique_ptr<TListeCV> pListeFig;  // the inner elements, never in a table nor solved
   char Nom[TAILLE_NOM_FIGURE + 1] = "";  // base name up to its first point, cut at 7

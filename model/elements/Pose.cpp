@@ -1,6 +1,7 @@
 #include "model/elements/Pose.h"
 
 #include "editor/bars/BD.h"
+#include "model/Nombres.h"
 #include "model/Outils.h"
 
 TPose::TPose(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
@@ -52,4 +53,10 @@ TElt* TPose::Copie(TListeCV* l, bool Lien) {
   c->DureeConstante = DureeConstante;
   c->TypePose = TypePose;
   return c;
+}
+
+void TPose::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "POSE   ", decalageFeuille, decalageTemps);
+  Fichier += "\t\t" + Gcvt(DureeConstante, 6) + "\t\t" + std::to_string(TypePose);
+  Enregistrer2(Fichier);
 }

@@ -14,3 +14,8 @@ void TPt::Set(int, int contrainte, float t) {
 }
 
 TElt* TPt::Copie(TListeCV* l, bool Lien) { return CopieDe<TPt>(l, Lien); }
+
+void TPt::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "POINT   ", decalageFeuille, decalageTemps);
+  Enregistrer2(Fichier);
+}

@@ -1,6 +1,7 @@
 #include "model/elements/Rot.h"
 
 #include "editor/bars/BD.h"
+#include "model/Nombres.h"
 #include "model/Outils.h"
 
 TRot::TRot(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angle)
@@ -21,4 +22,10 @@ TElt* TRot::Copie(TListeCV* l, bool Lien) {
   TElt* c = CopieDe<TRot>(l, Lien, Angle);
   c->DureeConstante = DureeConstante;
   return c;
+}
+
+void TRot::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "ROT   ", decalageFeuille, decalageTemps);
+  Fichier += "\t\t" + Gcvt(DureeConstante, 6) + '\t' + Gcvt(Angle, 6);
+  Enregistrer2(Fichier);
 }

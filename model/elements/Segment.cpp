@@ -1,6 +1,7 @@
 #include "model/elements/Segment.h"
 
 #include "editor/bars/BD.h"
+#include "model/Nombres.h"
 #include "model/Outils.h"
 
 TSegment::TSegment(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
@@ -35,3 +36,14 @@ void TSegRevo::Set(int, int contrainte, float t, float v, float angle) {
 int TSegRevo::GetAngle() { return AngleModulo2Pi(Angle); }
 
 TElt* TSegRevo::Copie(TListeCV* l, bool Lien) { return CopieDe<TSegRevo>(l, Lien, Angle); }
+
+void TSegment::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "SEGMENT ", decalageFeuille, decalageTemps);
+  Enregistrer2(Fichier);
+}
+
+void TSegRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "SEGREVO ", decalageFeuille, decalageTemps);
+  Fichier += '\t' + Gcvt(Angle, 6);
+  Enregistrer2(Fichier);
+}

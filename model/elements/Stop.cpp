@@ -1,6 +1,7 @@
 #include "model/elements/Stop.h"
 
 #include "editor/bars/BD.h"
+#include "model/Nombres.h"
 
 TStop::TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
     : TManoeuvre(p, fen, fenListe, liste, CONTRAINTE_DUREE, 100) {}
@@ -17,4 +18,10 @@ TElt* TStop::Copie(TListeCV* l, bool Lien) {
   TElt* c = CopieDe<TStop>(l, Lien);
   c->DureeConstante = DureeConstante;
   return c;
+}
+
+void TStop::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
+  EnregistrerDebut(Fichier, "STOP   ", decalageFeuille, decalageTemps);
+  Fichier += "\t\t" + Gcvt(DureeConstante, 6);
+  Enregistrer2(Fichier);
 }

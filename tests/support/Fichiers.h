@@ -7,6 +7,7 @@
 
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
+#include "model/Elt.h"
 #include "files/Lecture.h"
 #include "files/Lignes.h"
 #include "support/DocumentTest.h"
