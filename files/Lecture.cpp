@@ -272,11 +272,11 @@ TListeCV* TFenDessin::OuvrirFigure(const char* Fichier) {
   return liste;
 }
 
-bool LitRoutine(TFenCadre2& cadre, const std::string& chemin) {
-  TFenDessin* fen = cadre.GetFeuille(0);
+namespace {
+// Empties the document as opening a routine does, before anything is read.
+void VideDocument(TFenCadre2& cadre) {
   _FichierMusique[0] = '\0';
   Team = 1;
-  ChargementFichierEnCours = true;
   // Every kite, not only those in use: nothing of the previous routine may stay behind.
   for (int i = 0; i < NB_CV_MAX; ++i) {
     // From the front: each removal then finds its element at once.
@@ -290,16 +290,32 @@ bool LitRoutine(TFenCadre2& cadre, const std::string& chemin) {
   TElt::NbElt = 0;
   NbFenDesOuvertes = 0;
   for (int i = 0; i < cadre.nbFeuilles; ++i) cadre.GetFeuille(i)->NbSynchro = 0;
+}
 
+void LitLignesRoutine(TFenCadre2& cadre, std::string_view texte) {
+  TFenDessin* fen = cadre.GetFeuille(0);
+  DecoupeLignes(
+      texte, [&](std::string_view ligne) { fen->CreeElement(std::string(ligne).c_str(), nullptr); },
+      [&](int numero) { TFenDessin::MessageErreur("Ligne " + std::to_string(numero) + " trop longue : ignorée"); });
+}
+}  // namespace
+
+bool LitRoutine(TFenCadre2& cadre, const std::string& chemin) {
+  VideDocument(cadre);
   const std::optional<std::string> contenu = LitFichier(chemin);
   if (!contenu) {
-    ChargementFichierEnCours = false;
     Dialogues().MessageBox("Problème d'ouverture !!! ", " Ouvrir routine");
     return false;
   }
-  DecoupeLignes(
-      *contenu, [&](std::string_view ligne) { fen->CreeElement(std::string(ligne).c_str(), nullptr); },
-      [&](int numero) { TFenDessin::MessageErreur("Ligne " + std::to_string(numero) + " trop longue : ignorée"); });
+  ChargementFichierEnCours = true;
+  LitLignesRoutine(cadre, *contenu);
   ChargementFichierEnCours = false;
   return true;
+}
+
+void LitRoutineTexte(TFenCadre2& cadre, std::string_view texte) {
+  VideDocument(cadre);
+  ChargementFichierEnCours = true;
+  LitLignesRoutine(cadre, texte);
+  ChargementFichierEnCours = false;
 }

@@ -1,6 +1,7 @@
 #pragma once
 // Opening a routine: the document is emptied, then filled from the file's lines.
 #include <string>
+#include <string_view>
 
 class TFenCadre2;
 
@@ -8,3 +9,5 @@ class TFenCadre2;
 // false, with the document emptied and a message box shown, when the file cannot be read.
 // Nothing is solved: the times and speeds are those the file holds.
 bool LitRoutine(TFenCadre2& cadre, const std::string& chemin);
+// The same, from the text of a routine already in memory.
+void LitRoutineTexte(TFenCadre2& cadre, std::string_view texte);

@@ -4,11 +4,16 @@
 #include <cerrno>
 #include <charconv>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <limits>
 
 std::optional<std::string> LitFichier(const std::string& chemin) {
+  std::error_code erreur;
+  if (!std::filesystem::is_regular_file(chemin, erreur)) return std::nullopt;
+  const std::uintmax_t taille = std::filesystem::file_size(chemin, erreur);
+  if (erreur || taille > TAILLE_FICHIER_MAX) return std::nullopt;
   std::ifstream f(chemin, std::ios::binary);
   if (!f) return std::nullopt;
   std::string contenu((std::istreambuf_iterator<char>(f)), std::istreambuf_iterator<char>());

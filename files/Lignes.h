@@ -1,6 +1,7 @@
 #pragma once
 // Reading a routine or figure file: the whole file is read once into memory, then cut into
 // lines, and each line's fields are scanned the way the format's readers expect.
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -9,7 +10,10 @@
 // A line of the format holds at most this many characters.
 inline constexpr std::size_t LONGUEUR_LIGNE_MAX = 255;
 
-// The whole content of a file, or nothing when it cannot be opened.
+// The whole content of a file, or nothing when it cannot be opened. Only a regular file of
+// at most TAILLE_FICHIER_MAX bytes is read: a name in a routine may point anywhere, and a
+// device or a huge file must not hang or exhaust the program.
+inline constexpr std::uintmax_t TAILLE_FICHIER_MAX = 256u << 20;
 std::optional<std::string> LitFichier(const std::string& chemin);
 
 // Hands each line of `contenu` to `traite`, in order: a line ends at a line feed, a carriage
