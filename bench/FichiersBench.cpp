@@ -20,18 +20,6 @@ namespace {
 
 constexpr int NB_ELEMENTS = 20'000;
 
-class TDialoguesMuets : public TDialogues {
-public:
-  TReponse MessageBox(const std::string&, const std::string&, TBoutons, TIcone) override { return TReponse::OK; }
-  void MessageBeep(int) override {}
-  void MessageStatut(const std::string&) override {}
-  std::optional<std::string> FichierAOuvrir(const std::string&, const std::string&) override { return {}; }
-  std::optional<std::string> FichierAEnregistrer(const std::string&, const std::string&) override { return {}; }
-  std::optional<std::string> Saisie(const std::string&, const std::string&, const std::string&) override {
-    return {};
-  }
-  void SetCurseur(TCurseur) override {}
-};
 
 // The document: per kite a point, then segments with an axel and an arc every ten elements.
 struct TRoutineTest {

@@ -43,6 +43,21 @@ public:
   void SetCurseur(TCurseur curseur) override;
 };
 
+// Says nothing and answers every box with its first button: for runs with no one to ask,
+// such as fuzzing and benchmarks.
+class TDialoguesMuets : public TDialogues {
+public:
+  TReponse MessageBox(const std::string&, const std::string&, TBoutons, TIcone) override { return TReponse::OK; }
+  void MessageBeep(int) override {}
+  void MessageStatut(const std::string&) override {}
+  std::optional<std::string> FichierAOuvrir(const std::string&, const std::string&) override { return {}; }
+  std::optional<std::string> FichierAEnregistrer(const std::string&, const std::string&) override { return {}; }
+  std::optional<std::string> Saisie(const std::string&, const std::string&, const std::string&) override {
+    return {};
+  }
+  void SetCurseur(TCurseur) override {}
+};
+
 TDialogues& Dialogues();
 // Installs d (not owned) as the one used from now on; null brings back the console one.
 void SetDialogues(TDialogues* d);

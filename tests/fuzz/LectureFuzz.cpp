@@ -11,22 +11,6 @@
 #include "model/Document.h"
 #include "platform/Dialogues.h"
 
-namespace {
-// Says nothing and answers every box with its first button.
-class TDialoguesMuets : public TDialogues {
-public:
-  TReponse MessageBox(const std::string&, const std::string&, TBoutons, TIcone) override { return TReponse::OK; }
-  void MessageBeep(int) override {}
-  void MessageStatut(const std::string&) override {}
-  std::optional<std::string> FichierAOuvrir(const std::string&, const std::string&) override { return {}; }
-  std::optional<std::string> FichierAEnregistrer(const std::string&, const std::string&) override { return {}; }
-  std::optional<std::string> Saisie(const std::string&, const std::string&, const std::string&) override {
-    return {};
-  }
-  void SetCurseur(TCurseur) override {}
-};
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t taille) {
   static TDialoguesMuets muets;
   SetDialogues(&muets);
