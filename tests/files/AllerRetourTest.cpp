@@ -8,6 +8,12 @@ namespace {
 
 class AllerRetourTest : public FichiersTest {};
 
+TEST_F(AllerRetourTest, ShortRoutineComesBackByteForByte) {
+  const std::string courte = Donnee("routine_courte.rou");
+  ASSERT_TRUE(Ouvre(courte));
+  EXPECT_EQ(TexteRoutine(), courte);
+}
+
 TEST_F(AllerRetourTest, EveryClassSheetsLinksAndMirroredFiguresComeBackTheSame) {
   Ecrit("vague.fig",
         "TEAM   4 \n"
