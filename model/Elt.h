@@ -14,6 +14,7 @@ class TDC;
 class TFenDessin;
 class TFenListe;
 class TBD;
+class CV;
 
 // Which of an element's values is given by the user.
 enum TContrainte : int {
@@ -80,6 +81,8 @@ public:
   virtual TElt* Copie(TListeCV* l, bool Lien) = 0;
   virtual void Copie2(TElt* c, bool Lien);
   virtual void Transforme(TPointf Origine, TPointf Destination, int Mode);
+  // Hands the element to the flight generator of its kite in the running scene.
+  virtual void DirectX() = 0;
   // The element's line of a routine or figure file, appended to Fichier. The base writes the
   // common fields only; each class writes its record name before them, then its own fields
   // and the synchro tail. The sheet and time are written less the two shifts.
@@ -112,6 +115,9 @@ public:
   unsigned PassageMiseAJourV = 0;
 
 protected:
+  // The flight generator of this element's kite, or null with no scene.
+  CV* GetCV() const;
+
   // The end point of the copy: the stored one, truncated to whole units.
   TPoint PointCopie() const;
   // A new element of class T at PointCopie, built with the class's own fields `champs`,

@@ -19,6 +19,7 @@ public:
   void Translate(int dx, int dy, bool AvecDebut) override { TranslateDroit(dx, dy, AvecDebut); }
   void Transforme(TPointf Origine, TPointf Destination, int Mode) override;
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 
   float z = 0;

@@ -47,6 +47,7 @@ public:
   float CalculLongueur() override;
   float GetDureeConstante() const override { return 0; }
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
   void Transforme(TPointf Origine, TPointf Destination, int Mode) override;
 
@@ -77,6 +78,7 @@ public:
 
   int GetAngle() override;
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 
   float AngleRevo;  // orientation of the kite along the arc, degrees

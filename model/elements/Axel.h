@@ -32,6 +32,7 @@ public:
   TAxel(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste) : TManoeuvreCote(p, fen, fenListe, liste) {}
   TAxel(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool) : TAxel(p, fen, fenListe, liste) {}
   TElt* Copie(TListeCV* l, bool Lien) override { return CopieCote<TAxel>(l, Lien); }
+  void DirectX() override;
 
 protected:
   const char* NomEnregistrement() const override { return "AXEL   "; }
@@ -42,6 +43,7 @@ public:
   T540(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste) : TManoeuvreCote(p, fen, fenListe, liste) {}
   T540(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool) : T540(p, fen, fenListe, liste) {}
   TElt* Copie(TListeCV* l, bool Lien) override { return CopieCote<T540>(l, Lien); }
+  void DirectX() override;
 
 protected:
   const char* NomEnregistrement() const override { return "540     "; }

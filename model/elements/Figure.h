@@ -30,6 +30,9 @@ public:
   void Translate(int dx, int dy, bool AvecDebut) override { TranslateDroit(dx, dy, AvecDebut); }
   void Transforme(TPointf Origine, TPointf Destination, int Mode) override;
   TElt* Copie(TListeCV* l, bool Lien) override;
+  // Places the inner elements at the end of the previous element and at its time, then
+  // hands all but the first, which only anchors them, to the flight generator.
+  void DirectX() override;
   // The inner elements are not written: the file is read again at each load.
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 

@@ -24,6 +24,7 @@ public:
   float CalculLongueur() override;
   void Transforme(TPointf Origine, TPointf Destination, int Mode) override;
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 
   int TypePose = POSE_DEUX_POINTES;

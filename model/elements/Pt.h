@@ -16,5 +16,6 @@ public:
   float CalculLongueur() override { return 0; }
   float GetDureeConstante() const override { return 0; }
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 };

@@ -13,6 +13,7 @@ public:
   int GetAngle() override;
   bool IsCalculV() const override { return true; }
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 
   float Angle;  // the orientation the kite takes, degrees

@@ -1,4 +1,5 @@
 #include "model/elements/Segment.h"
+#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -46,4 +47,13 @@ void TSegRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float deca
   EnregistrerDebut(Fichier, "SEGREVO ", decalageFeuille, decalageTemps);
   Fichier += '\t' + Gcvt(Angle, 6);
   Enregistrer2(Fichier);
+}
+
+void TSegment::DirectX() {
+  // A kite swings round to a new heading in a tenth of a second.
+  if (CV* cv = GetCV()) cv->Segment(Num, Gett2Param(), x.GetParam(), y.GetParam(), 10.0f);
+}
+
+void TSegRevo::DirectX() {
+  if (CV* cv = GetCV()) cv->SegRevo(Num, Gett2Param(), x.GetParam(), y.GetParam(), Angle);
 }

@@ -15,6 +15,7 @@ public:
   float CalculLongueur() override { return LongueurDroite(); }
   float GetDureeConstante() const override { return 0; }
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 
 protected:
@@ -31,6 +32,7 @@ public:
 
   int GetAngle() override;
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 
   float Angle;  // orientation of the kite along the line, degrees

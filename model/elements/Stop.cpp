@@ -1,4 +1,5 @@
 #include "model/elements/Stop.h"
+#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -24,4 +25,8 @@ void TStop::Enregistrer(std::string& Fichier, int decalageFeuille, float decalag
   EnregistrerDebut(Fichier, "STOP   ", decalageFeuille, decalageTemps);
   Fichier += "\t\t" + Gcvt(DureeConstante, 6);
   Enregistrer2(Fichier);
+}
+
+void TStop::DirectX() {
+  if (CV* cv = GetCV()) cv->Stop(Num, t2.GetParam());
 }

@@ -10,5 +10,6 @@ public:
   void Set(int, int contrainte, float t, float duree);
   TVect GetVDir() override { return TVect(0, 1); }
   TElt* Copie(TListeCV* l, bool Lien) override;
+  void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;
 };

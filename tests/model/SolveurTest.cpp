@@ -4,7 +4,7 @@
 #include "editor/FenCadre2.h"
 #include "support/BDEspion.h"
 #include "support/DocumentTest.h"
-#include "support/EltDuree.h"
+#include "model/elements/Axel.h"
 #include "support/Trace.h"
 
 namespace {
@@ -22,6 +22,13 @@ protected:
     s->Contrainte = CONTRAINTE_TEMPS;
     s->Sett2Param(t);
     return s;
+  }
+
+  // An axel: a fixed duration with no length, through which a time change passes.
+  TAxel* Axel(int x, int y, float duree) {
+    auto* a = Ajoute<TAxel>(f.fen, 0, x, y);
+    a->DureeConstante = duree;
+    return a;
   }
 
   TFeuilleTest f;
@@ -70,7 +77,7 @@ TEST_F(SolveurTest, NoAnchorAfterTheStretchFliesAtTheDefaultSpeed) {
 TEST_F(SolveurTest, FixedDurationInsideAStretchIsTakenOffItsTime) {
   Ajoute<TPt>(f.fen, 0, 0, 0);
   auto* a = Ajoute<TSegment>(f.fen, 0, 0, 100);
-  auto* axel = Ajoute<TEltDuree>(f.fen, 0, 0, 100, 110.0f);
+  auto* axel = Axel(0, 100, 110.0f);
   auto* b = Ajoute<TSegment>(f.fen, 0, 0, 400);
   auto* c = Ancre(0, 0, 500, 1000);
   int distance = 0;
@@ -148,7 +155,7 @@ TEST_F(SolveurTest, CalculTUsesTheStoredSpeedAndTimesOnly) {
   b->CalculT();
   EXPECT_FLOAT_EQ(b->Gett2Param(), 200);
   EXPECT_FLOAT_EQ(b->GetV(), 0.5f);
-  auto* d = Ajoute<TEltDuree>(f.fen, 0, 0, 60, 40.0f);
+  auto* d = Axel(0, 60, 40.0f);
   d->CalculT();
   EXPECT_FLOAT_EQ(d->Gett2Param(), 240);
   EXPECT_FLOAT_EQ(a->Gett2Param(), 100);
@@ -176,10 +183,10 @@ TEST_F(SolveurTest, MiseAJourVOnAnElementOutOfItsListSaysSo) {
 
 TEST_F(SolveurTest, TwoManoeuvresPassingChangesBothWaysStillEnd) {
   Ajoute<TPt>(f.fen, 0, 0, 0);
-  auto* a = Ajoute<TEltDuree>(f.fen, 0, 0, 0, 50.0f);
+  auto* a = Axel(0, 0, 50.0f);
   a->Contrainte = CONTRAINTE_TEMPS;
   a->Sett2Param(80);
-  auto* b = Ajoute<TEltDuree>(f.fen, 0, 0, 0, 30.0f);
+  auto* b = Axel(0, 0, 30.0f);
   TFenDessin::MiseAJourV(b, true, true);
   EXPECT_FLOAT_EQ(b->Gett2Param(), 110);
 }
