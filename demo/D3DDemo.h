@@ -1,19 +1,83 @@
 #pragma once
-// The demonstration scene. What it holds for the flight: one generator and one pair of key
-// tracks per kite, which the elements' DirectX fill and playback samples.
+// The demonstration scene: the world of one demonstration (camera, sun, backdrop, one model
+// per kite), each kite's flight generator and key tracks, and the playback clock. The
+// player makes one at each start of a demonstration; the idle loop calls Go over and over.
+#include <string>
+
 #include "demo/CV.h"
 #include "model/Document.h"
+#include "platform/Rendu.h"
+
+// Playback modes.
+enum TModeLecture : int {
+  MODE_AVANT = 1,
+  MODE_ARRIERE = 2,
+  MODE_PAUSE = 3,
+  MODE_DEBUT = 4,         // go to tDebut and hold there
+  MODE_PAS_ARRIERE = 5,   // one step backward, then 8
+  MODE_PAS_AVANT = 6,     // one step forward, then 7
+  MODE_APRES_PAS_AVANT = 7,
+  MODE_APRES_PAS_ARRIERE = 8,
+};
 
 class TD3DDemo {
 public:
-  TD3DDemo() {
-    for (int i = 0; i < NB_CV_MAX; ++i) TabCV[i].Trajectoire(&Trajectoires[i]);
-  }
+  // Builds everything through `rendu`; *pOK is 0 on entry and 1 once all is built.
+  TD3DDemo(TRendu& rendu, int* pOK, int nbCV, float tFin, int Team);
   TD3DDemo(const TD3DDemo&) = delete;
   TD3DDemo& operator=(const TD3DDemo&) = delete;
+  ~TD3DDemo();
 
+  // (Re)makes the device and the viewport at the client's present size.
+  bool blCreateDeviceAndViewport();
+  // Light, models, backdrop.
+  bool blCreateScene();
+  // Finds and loads the model of kite index i into *pCadre.
+  bool ChargerFrameCV(int i, TIdCadre* pCadre, int Team);
+  // One step of playback: the clock, the music's orders, the kites, sun and camera, a frame.
+  void Go();
+
+  // What Go keeps from one call to the next, across scenes; back to their start values.
+  static void ReinitialiseStatiques();
+
+  float SoleilX = -0.7f;
+  float CameraX = 0, CameraY = 54.0f, CameraZ = -215.0f;
+  float DirX = 0, DirZ = 1.0f;
+  float AngleCamera = 0;
+  float DistanceCamera = 215.0f;
+  int Periode = 10;  // ms of clock for 1/100 s of routine: 10 is real time
+  int tDebut = 0;
+  int Mode = MODE_AVANT;
+  int Pas = 80;
+  unsigned tCourant = 0;
   CV TabCV[NB_CV_MAX];
-  TTrajectoire Trajectoires[NB_CV_MAX];
+  TTrajectoire Trajectoires[NB_CV_MAX];  // each kite's key tracks, filled through TabCV
+  int nbCV;
+  float tFin;
+  int Team;
+
+  // The next Go restarts the clock; a music file is open.
+  static bool _Debut;
+  static bool MusiqueEnCours;
+
+private:
+  void PlaceCamera();
+  void PlaceSoleil();
+
+  TRendu& Rendu;
+  TIdCadre Monde = CADRE_AUCUN;
+  TIdCadre Vue = CADRE_AUCUN;
+  TIdCadre Soleil = CADRE_AUCUN;
+  TIdCadre Modeles[NB_CV_MAX] = {CADRE_AUCUN, CADRE_AUCUN, CADRE_AUCUN, CADRE_AUCUN, CADRE_AUCUN, CADRE_AUCUN};
+  const char* FichierJournal();
+  std::string Journal;  // where failed calls are logged
+
+  static unsigned tPrecedent;
+  static float tReference;
+  static unsigned TickReference;
+  static unsigned TickCourant;
+  static int PeriodePrecedente;
+  static int ModePrecedent;
 };
 
 // The generator of kite `num` in the running scene, or null when there is none.

@@ -7,13 +7,6 @@
 
 #include "platform/Rendu.h"
 
-// An orientation: the model's z axis (normal to the sail) and y axis (where the nose points).
-// Neither needs unit length: keys keep their vectors as they were given.
-struct TOrientation {
-  TVecteur3 Z{0, 0, 1};
-  TVecteur3 Y{0, 1, 0};
-};
-
 TVecteur3 Interpole(const TVecteur3& a, const TVecteur3& b, float f);
 // Turns from a to b by the shorter way, as a fraction f of the turn; unit vectors come out.
 TOrientation Interpole(const TOrientation& a, const TOrientation& b, float f);

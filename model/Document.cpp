@@ -1,5 +1,6 @@
 #include "model/Document.h"
 
+#include "demo/D3DDemo.h"
 #include "editor/FenDessin.h"
 #include "model/Elt.h"
 
@@ -73,4 +74,5 @@ void ReinitialiseDocument() {
 
   TElt::NbElt = 0;
   TFenDessin::ReinitialiseStatiques();
+  TD3DDemo::ReinitialiseStatiques();
 }

@@ -133,9 +133,17 @@ class DirectXTest : public FichiersTest {
 protected:
   void SetUp() override {
     FichiersTest::SetUp();
-    Globals.pD3DDemo = &scene;
+    int ok = 0;
+    demo = std::make_unique<TD3DDemo>(rendu, &ok, 1, 1000.0f, 1);
+    Globals.pD3DDemo = demo.get();
   }
-  TD3DDemo scene;
+  void TearDown() override {
+    Globals.pD3DDemo = nullptr;
+    demo.reset();
+    FichiersTest::TearDown();
+  }
+  TRenduAbsent rendu;
+  std::unique_ptr<TD3DDemo> demo;
   TFeuilleTest f;
 };
 
@@ -144,8 +152,8 @@ TEST_F(DirectXTest, ElementsHandThemselvesToTheirKite) {
   auto* s = Ajoute<TSegment>(f.fen, 2, 30, 40);
   s->Sett2Param(500);
   for (TNoeud* n = TabLElt[2].Premier(); n; n = n->GetSuivant()) static_cast<TElt*>(n)->DirectX();
-  EXPECT_EQ(Temps(scene.Trajectoires[2], true), (std::vector<float>{0, 500}));
-  EXPECT_TRUE(scene.Trajectoires[0].Ordre.empty());
+  EXPECT_EQ(Temps(demo->Trajectoires[2], true), (std::vector<float>{0, 500}));
+  EXPECT_TRUE(demo->Trajectoires[0].Ordre.empty());
 }
 
 TEST_F(DirectXTest, FigureLaysNoKeyForItsAnchorHoweverOftenItRuns) {
@@ -155,16 +163,16 @@ TEST_F(DirectXTest, FigureLaysNoKeyForItsAnchorHoweverOftenItRuns) {
   Ajoute<TPt>(f.fen, 0, 50, 50)->Sett2Param(40);
   auto* fig = Ajoute<TFigure>(f.fen, 0, 0, 0, "coin.fig", true);
   for (int fois = 0; fois < 2; ++fois) {
-    scene.Trajectoires[0] = TTrajectoire();
-    scene.TabCV[0].Trajectoire(&scene.Trajectoires[0]);
+    demo->Trajectoires[0] = TTrajectoire();
+    demo->TabCV[0].Trajectoire(&demo->Trajectoires[0]);
     for (TNoeud* n = TabLElt[0].Premier(); n; n = n->GetSuivant()) static_cast<TElt*>(n)->DirectX();
-    EXPECT_EQ(Temps(scene.Trajectoires[0], true), (std::vector<float>{40, 140})) << fois;
-    EXPECT_EQ(scene.Trajectoires[0].Positions.Echantillonne(140).x, 60.0f) << fois;
+    EXPECT_EQ(Temps(demo->Trajectoires[0], true), (std::vector<float>{40, 140})) << fois;
+    EXPECT_EQ(demo->Trajectoires[0].Positions.Echantillonne(140).x, 60.0f) << fois;
   }
   // Inside the figure, a report names the figure.
   auto* inner = static_cast<TElt*>(fig->pListeFig->Dernier());
   inner->Sett2Param(-1000);
-  scene.TabCV[0].T = 5000;
+  demo->TabCV[0].T = 5000;
   inner->DirectX();
   EXPECT_EQ(dialogues.Statuts.back(), "!!!! Fonction Segment de la FigureN°" + std::to_string(fig->Num) + " : durée <= 0!!!");
 }

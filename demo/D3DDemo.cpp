@@ -1,0 +1,220 @@
+#include "demo/D3DDemo.h"
+
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+
+#include "demo/Journal.h"
+#include "platform/Dialogues.h"
+#include "platform/Horloge.h"
+#include "platform/Son.h"
+
+bool TD3DDemo::_Debut = true;
+bool TD3DDemo::MusiqueEnCours = false;
+unsigned TD3DDemo::tPrecedent = 0;
+float TD3DDemo::tReference = 0;
+unsigned TD3DDemo::TickReference = 0;
+unsigned TD3DDemo::TickCourant = 0;
+int TD3DDemo::PeriodePrecedente = 0;
+int TD3DDemo::ModePrecedent = MODE_AVANT;
+
+void TD3DDemo::ReinitialiseStatiques() {
+  _Debut = true;
+  MusiqueEnCours = false;
+  tPrecedent = 0;
+  tReference = 0;
+  TickReference = 0;
+  TickCourant = 0;
+  PeriodePrecedente = 0;
+  ModePrecedent = MODE_AVANT;
+}
+
+TD3DDemo::TD3DDemo(TRendu& rendu, int* pOK, int nbCV_, float tFin_, int Team_)
+    : nbCV(nbCV_), tFin(tFin_), Team(Team_), Rendu(rendu) {
+  *pOK = 0;
+  for (int i = 0; i < NB_CV_MAX; ++i) TabCV[i].Trajectoire(&Trajectoires[i]);
+  // Our renderer needs no steps of its own between connecting and the two first frames:
+  // the numbers the log gives are those of the steps that exist.
+  if (long r = Rendu.Connecte()) {
+    DXERROR_DirectDraw(FichierJournal(), 0, r);
+    return;
+  }
+  if (long r = Rendu.CreeCadre(CADRE_AUCUN, Monde)) {
+    DXERROR_Direct3DRM(FichierJournal(), 6, r);
+    return;
+  }
+  if (long r = Rendu.CreeCadre(Monde, Vue)) {
+    DXERROR_Direct3DRM(FichierJournal(), 7, r);
+    return;
+  }
+  PlaceCamera();
+  if (!blCreateDeviceAndViewport()) return;
+  if (!blCreateScene()) {
+    // Only a camera that cannot be turned gives the scene up; without a backdrop it plays.
+    if (long r = Rendu.OrienteCadre(Vue, {{DirX, 0, DirZ}, {0, 1.0f, 0}})) {
+      DXERROR_Direct3DRM(FichierJournal(), 9, r);
+      return;
+    }
+  }
+  *pOK = 1;
+}
+
+const char* TD3DDemo::FichierJournal() {
+  // Found at the first failure only: a scene that never fails never looks for its log.
+  if (Journal.empty()) Journal = CheminJournal();
+  return Journal.c_str();
+}
+
+TD3DDemo::~TD3DDemo() { Rendu.LibereDispositif(); }
+
+bool TD3DDemo::blCreateDeviceAndViewport() {
+  Rendu.LibereDispositif();
+  const TSize taille = Rendu.TailleClient();
+  if (long r = Rendu.CreeDispositif(taille.cx, taille.cy)) {
+    DXERROR_Direct3DRM(FichierJournal(), 0, r);
+    return false;
+  }
+  if (long r = Rendu.CreeVue(Vue, 400.0f)) {
+    DXERROR_Direct3DRM(FichierJournal(), 2, r);
+    return false;
+  }
+  return true;
+}
+
+bool TD3DDemo::blCreateScene() {
+  // The sun: no result tested, as a scene without light still shows its kites.
+  if (Rendu.CreeCadre(Monde, Soleil) == 0) {
+    PlaceSoleil();
+    Rendu.CreeSoleil(Soleil);
+  }
+  // A kite whose model cannot be had is left out of the scene: its keys are laid all the
+  // same, but nothing is drawn for it.
+  for (int i = 0; i < nbCV && i < NB_CV_MAX; ++i) ChargerFrameCV(i, &Modeles[i], Team);
+  if (long r = Rendu.ChargeFond("Nuages.bmp")) {
+    DXERROR_Direct3DRM(FichierJournal(), 30, r);
+    return false;
+  }
+  return true;
+}
+
+bool TD3DDemo::ChargerFrameCV(int i, TIdCadre* pCadre, int Team_) {
+  const int k = i + 1;
+  char fichier[52];
+  std::snprintf(fichier, sizeof fichier, "CV%d_%d.x", Team_, k);
+  char texte[128];
+  std::error_code erreur;
+  if (!std::filesystem::is_regular_file(fichier, erreur)) {
+    std::snprintf(texte, sizeof texte, "fichier CV%d.x inexistant", k);
+    Dialogues().MessageBox(texte, "Ouvrir fichier CV.x");
+    return false;
+  }
+  char nom[32];
+  std::snprintf(nom, sizeof nom, "FRAME_CV%d", k);
+  if (Rendu.ChargeModele(fichier, nom, Monde, *pCadre)) {
+    *pCadre = CADRE_AUCUN;
+    std::snprintf(texte, sizeof texte, "Echec chargement CV%d.x : ça va planter!!!", k);
+    Dialogues().MessageBox(texte, "CreateScene()");
+    return false;
+  }
+  return true;
+}
+
+void TD3DDemo::PlaceSoleil() { Rendu.OrienteCadre(Soleil, {{SoleilX, 0, 0.7f}, {0, 1.0f, 0}}); }
+
+void TD3DDemo::PlaceCamera() {
+  // The camera orbits the vertical axis, level, at its distance, looking through the axis.
+  CameraX = -DistanceCamera * std::sin(AngleCamera);
+  CameraZ = -DistanceCamera * std::cos(AngleCamera);
+  Rendu.PlaceCadre(Vue, {CameraX, CameraY, CameraZ});
+  DirX = std::sin(AngleCamera);
+  DirZ = std::cos(AngleCamera);
+  Rendu.OrienteCadre(Vue, {{DirX, 0, DirZ}, {0, 1.0f, 0}});
+}
+
+void TD3DDemo::Go() {
+  if (static_cast<float>(tDebut) >= tFin) tDebut = 0;
+  if (_Debut) {
+    tCourant = static_cast<unsigned>(tDebut);
+    tReference = static_cast<float>(tDebut);
+  }
+  if (long r = Rendu.Efface()) return DXERROR_Direct3DRM(FichierJournal(), 0, r);
+  TickCourant = Horloge().GetTickCount();
+  if (_Debut) TickReference = TickCourant;
+
+  const float ecoule = static_cast<float>(TickCourant - TickReference) / static_cast<float>(Periode);
+  float r = tReference;
+  switch (Mode) {
+    case MODE_AVANT: r = ecoule + tReference; break;
+    case MODE_ARRIERE: r = tReference - ecoule; break;
+    case MODE_DEBUT:
+      r = static_cast<float>(tDebut);
+      TickReference = TickCourant;
+      break;
+    case MODE_PAS_ARRIERE:
+      r = tReference - static_cast<float>(Pas);
+      TickReference = TickCourant;
+      Mode = MODE_APRES_PAS_ARRIERE;
+      break;
+    case MODE_PAS_AVANT:
+      r = tReference + static_cast<float>(Pas);
+      TickReference = TickCourant;
+      Mode = MODE_APRES_PAS_AVANT;
+      break;
+    default:  // pause, and holding after a step
+      TickReference = TickCourant;
+      break;
+  }
+  if (r < 0) {
+    tCourant = 0;
+    r = 0;
+    TickReference = TickCourant;
+  } else {
+    tCourant = static_cast<unsigned>(r);
+  }
+  // The reference moves up at each whole hundredth, the fraction kept in r: a change of
+  // Periode takes effect at once and no rounding gathers.
+  if (tCourant != tPrecedent) {
+    TickReference = TickCourant;
+    tReference = r;
+  }
+  if (static_cast<float>(tCourant) >= tFin - 1.0f && (Mode == MODE_AVANT || Mode == MODE_APRES_PAS_AVANT)) {
+    tCourant = static_cast<unsigned>(tFin - 1.0f);
+    tReference = static_cast<float>(tCourant);
+  }
+  if (static_cast<int>(tCourant) <= tDebut && (Mode == MODE_ARRIERE || Mode == MODE_APRES_PAS_ARRIERE)) {
+    tCourant = static_cast<unsigned>(tDebut);
+    tReference = static_cast<float>(tCourant);
+  }
+  tPrecedent = tCourant;
+
+  // The music follows only by being restarted: at normal speed and forward it plays from
+  // tCourant x 10 ms; any other mode or speed silences it.
+  if (Periode != PeriodePrecedente || _Debut || Mode != ModePrecedent) {
+    if (MusiqueEnCours) {
+      const int resultat = Periode == 10 && Mode == MODE_AVANT
+                               ? Son().Jouer("musique", static_cast<int>(tCourant) * Periode)
+                               : Son().Arreter("musique");
+      if (resultat) {
+        char texte[64];
+        std::snprintf(texte, sizeof texte, "play ou stop  raté :%d ", resultat);
+        Dialogues().MessageBox(texte, "fonction go()", TBoutons::OK, TIcone::Avertissement);
+      }
+    }
+  }
+  PeriodePrecedente = Periode;
+  _Debut = false;
+  ModePrecedent = Mode;
+
+  for (int i = 0; i < NB_CV_MAX; ++i) {
+    if (Modeles[i] == CADRE_AUCUN || Trajectoires[i].Positions.IsVide()) continue;
+    const float t = static_cast<float>(tCourant);
+    long res = Rendu.PlaceCadre(Modeles[i], Trajectoires[i].Positions.Echantillonne(t));
+    if (!res && !Trajectoires[i].Orientations.IsVide())
+      res = Rendu.OrienteCadre(Modeles[i], Trajectoires[i].Orientations.Echantillonne(t));
+    if (res) return DXERROR_Direct3DRM(FichierJournal(), 1, res);
+  }
+  PlaceSoleil();
+  PlaceCamera();
+  if (long res = Rendu.Dessine(Monde)) return DXERROR_Direct3DRM(FichierJournal(), 2, res);
+  if (long res = Rendu.Affiche()) return DXERROR_Direct3DRM(FichierJournal(), 5, res);
+}
