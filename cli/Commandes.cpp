@@ -1,6 +1,9 @@
 #include "Commandes.h"
 
 #include <cstdio>
+#include <cstdlib>
+
+#include "demo/D3DDemo.h"
 
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
@@ -29,6 +32,67 @@ int Reenregistre(const std::vector<std::string>& args, bool resoudre) {
   return 0;
 }
 
+// Reads IN and builds the flight as the editor's demonstration does; false when IN can't
+// be read. Whether a scene came of it is in Globals.
+bool ConstruitVol(TFenCadre2& cadre, const std::string& in) {
+  cadre.SetupWindow();
+  if (!LitRoutine(cadre, in)) {
+    std::fprintf(stderr, "trajectoires-cli : impossible de lire « %s »\n", in.c_str());
+    return false;
+  }
+  TFenDessin::Demo();
+  return true;
+}
+
+void Affiche(const char* debut, int kite, float t, const TVecteur3& a, const TVecteur3& b, bool deux) {
+  std::printf("%s %d %.9g %.9g %.9g %.9g", debut, kite, static_cast<double>(t), static_cast<double>(a.x),
+              static_cast<double>(a.y), static_cast<double>(a.z));
+  if (deux) std::printf(" %.9g %.9g %.9g", static_cast<double>(b.x), static_cast<double>(b.y), static_cast<double>(b.z));
+  std::printf("\n");
+}
+
+int Cles(const std::vector<std::string>& args) {
+  if (args.size() != 1) {
+    std::fprintf(stderr, "trajectoires-cli : keys prend un fichier, IN (voir --help)\n");
+    return 2;
+  }
+  TFenCadre2 cadre;
+  if (!ConstruitVol(cadre, args[0])) return 1;
+  const TD3DDemo* scene = Globals.pD3DDemo;
+  if (!scene) return 0;  // the demonstration was refused: its message has been said
+  for (int k = 0; k < nbCV; ++k)
+    for (const TClePosee& c : scene->Trajectoires[k].Ordre) {
+      if (c.Position)
+        Affiche("P", k, c.t, c.P, c.P, false);
+      else
+        Affiche("O", k, c.t, c.O.Z, c.O.Y, true);
+    }
+  std::printf("END %.9g\n", static_cast<double>(scene->tFin));
+  return 0;
+}
+
+int Echantillon(const std::vector<std::string>& args) {
+  char* fin = nullptr;
+  const float t = args.size() == 2 ? std::strtof(args[1].c_str(), &fin) : 0;
+  if (args.size() != 2 || fin == args[1].c_str() || *fin != '\0') {
+    std::fprintf(stderr, "trajectoires-cli : sample prend IN et un temps T en centièmes (voir --help)\n");
+    return 2;
+  }
+  TFenCadre2 cadre;
+  if (!ConstruitVol(cadre, args[0])) return 1;
+  const TD3DDemo* scene = Globals.pD3DDemo;
+  if (!scene) return 0;
+  for (int k = 0; k < nbCV; ++k) {
+    const TVecteur3 p = scene->Trajectoires[k].Positions.Echantillonne(t);
+    const TOrientation o = scene->Trajectoires[k].Orientations.Echantillonne(t);
+    std::printf("S %d %.9g %.9g %.9g %.9g %.9g %.9g %.9g %.9g %.9g\n", k, static_cast<double>(p.x),
+                static_cast<double>(p.y), static_cast<double>(p.z), static_cast<double>(o.Z.x),
+                static_cast<double>(o.Z.y), static_cast<double>(o.Z.z), static_cast<double>(o.Y.x),
+                static_cast<double>(o.Y.y), static_cast<double>(o.Y.z));
+  }
+  return 0;
+}
+
 }  // namespace
 
 const std::vector<TCommande>& Commandes() {
@@ -37,6 +101,8 @@ const std::vector<TCommande>& Commandes() {
        [](const std::vector<std::string>& a) { return Reenregistre(a, false); }},
       {"solve", "IN OUT", "relit IN, recalcule tous les temps et vitesses, écrit OUT",
        [](const std::vector<std::string>& a) { return Reenregistre(a, true); }},
+      {"keys", "IN", "relit IN, construit le vol comme la démo, écrit chaque clé posée puis END tFin", Cles},
+      {"sample", "IN T", "le même vol, puis la pose de chaque cerf-volant au temps T", Echantillon},
   };
   return commandes;
 }

@@ -43,6 +43,9 @@ public:
   static void MiseAJourV(TElt* e, bool Suivant, bool Precedent);
   // Every element of the first nbCV tracks, each end time solved once.
   static void MiseAJourVTotale();
+  // A new paused scene, its tracks laid by every element, then a whole-document update.
+  // Refused, with a message, while a kite has no more than its start point.
+  static void Demo();
   // Links e to the element at Index in the track NumCV of Table (-1: no link).
   static void Synchronise(TElt* e, int NumCV, TListeCV* Table, int Index, TFenDessin* pFen);
   // Reading of routine and figure files. One line, without its line end: with pListe null

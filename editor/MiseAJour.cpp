@@ -2,6 +2,8 @@
 #include <string>
 #include <vector>
 
+#include "demo/D3DDemo.h"
+#include "demo/Demonstration.h"
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
 #include "model/Document.h"
@@ -59,6 +61,25 @@ void TFenDessin::MiseAJourVTotale() {
       if (!e->MAJFaite) MiseAJourV(e, false, false);
     }
   MiseAJourVTotaleEnCours = false;
+}
+
+void TFenDessin::Demo() {
+  float tMin = 0;
+  for (int i = 0; i < nbCV; ++i) {
+    if (TabLElt[i].nbNoeud() <= 1) {
+      MessageErreur("Démo impossible : liste  vide");
+      return;
+    }
+    const float t = static_cast<TElt*>(TabLElt[i].Dernier())->Gett2Param();
+    if (i == 0 || t < tMin) tMin = t;
+  }
+  // The scene ends with the shortest kite.
+  FermeDemo();
+  InitDemo(nbCV, tMin - 1.0f);
+  // Walked without the lists' cursor, which the elements use themselves.
+  for (int i = 0; i < nbCV; ++i)
+    for (TNoeud* n = TabLElt[i].Init2(); n; n = n->GetSuivant()) static_cast<TElt*>(n)->DirectX();
+  MiseAJourVTotale();
 }
 
 void TFenDessin::Synchronise(TElt* e, int NumCV, TListeCV* Table, int Index, TFenDessin* pFen) {

@@ -70,6 +70,7 @@ void ReinitialiseDocument() {
   PointDebutTampon = TPointf();
   pFenDes0 = nullptr;
   pFenAppDemo = nullptr;
+  delete Globals.pD3DDemo;  // the scene is owned through Globals
   Globals = TGlobals();
 
   TElt::NbElt = 0;
