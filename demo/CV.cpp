@@ -45,6 +45,27 @@ void CV::SetOrientation(const TOrientation& o) {
   zY = o.Y.z;
 }
 
+bool CV::TesteTemps(int Num, float t, const char* texte, const char* texteFigure) {
+  // Strict: an element that ends when the one before it ended lays nothing.
+  if (t > T) return true;
+  Signale(texte, texteFigure, Num);
+  return false;
+}
+
+bool CV::TesteLongueur(int Num, float x, float y, const char* texte, const char* texteFigure) {
+  if (x != X || y != Y) return true;
+  Signale(texte, texteFigure, Num);
+  return false;
+}
+
+void CV::Arrive(float t, float x, float y) {
+  T = t;
+  X = x;
+  Y = y;
+  ClePosition(t);
+  CleOrientation(t);
+}
+
 void CV::Point(int, float t, float x, float y) {
   T = t;
   X = x;
@@ -56,38 +77,21 @@ void CV::Point(int, float t, float x, float y) {
 
 void CV::Va(int Num, float t, float x, float y, float z, float xZ_, float yZ_, float zZ_, float xY_, float yY_,
             float zY_) {
-  if (!(t > T)) {
-    Signale("Fonction Aller A N°%d : durée <= 0!!!", "Fonction Aller A fe la figure N°%d : durée <= 0!!!", Num);
-    return;
-  }
-  T = t;
-  X = x;
-  Y = y;
+  if (!TesteTemps(Num, t, "Fonction Aller A N°%d : durée <= 0!!!", "Fonction Aller A fe la figure N°%d : durée <= 0!!!")) return;
   Z = z;
   SetOrientation({{xZ_, yZ_, zZ_}, {xY_, yY_, zY_}});
-  ClePosition(t);
-  CleOrientation(t);
+  Arrive(t, x, y);
 }
 
 void CV::Segment(int Num, float t, float x, float y, float DureeVirage) {
-  if (!(t > T)) {
-    Signale("Fonction Segment N°%d : durée <= 0!!!", "Fonction Segment de la FigureN°%d : durée <= 0!!!", Num);
-    return;
-  }
-  if (x == X && y == Y) {
-    Signale("Fonction Segment N°%d: longueur nulle!!!", nullptr, Num);
-    return;
-  }
+  if (!TesteTemps(Num, t, "Fonction Segment N°%d : durée <= 0!!!", "Fonction Segment de la FigureN°%d : durée <= 0!!!")) return;
+  if (!TesteLongueur(Num, x, y, "Fonction Segment N°%d: longueur nulle!!!", nullptr)) return;
   const float L = std::sqrt((x - X) * (x - X) + (y - Y) * (y - Y));
   xY = (x - X) / L;
   yY = (y - Y) / L;
   // The kite swings round to its new heading at the start, then flies straight.
   CleOrientation(T + DureeVirage);
-  T = t;
-  X = x;
-  Y = y;
-  ClePosition(t);
-  CleOrientation(t);
+  Arrive(t, x, y);
 }
 
 void CV::Rotation(float t, float Angle) {
@@ -103,29 +107,16 @@ void CV::Rotation(float t, float Angle) {
 }
 
 void CV::SegRevo(int Num, float t, float x, float y, float Angle) {
-  if (!(t > T)) {
-    Signale("Fonction SegRevo N°%d : durée <= 0!!!", "Fonction SegRevo de la FigureN°%d : durée <= 0!!!", Num);
-    return;
-  }
-  if (x == X && y == Y) {
-    Signale("Fonction SegRevo N°%d: longueur nulle!!!", nullptr, Num);
-    return;
-  }
+  if (!TesteTemps(Num, t, "Fonction SegRevo N°%d : durée <= 0!!!", "Fonction SegRevo de la FigureN°%d : durée <= 0!!!")) return;
+  if (!TesteLongueur(Num, x, y, "Fonction SegRevo N°%d: longueur nulle!!!", nullptr)) return;
   Rotation(t, Angle);
-  T = t;
-  X = x;
-  Y = y;
   xY = std::sin(Radians(Angle));
   yY = std::cos(Radians(Angle));
-  ClePosition(t);
-  CleOrientation(t);
+  Arrive(t, x, y);
 }
 
 void CV::Rot(int Num, float t, float Angle) {
-  if (!(t > T)) {
-    Signale("Fonction Rotation N°%d : durée  <= 0!!!", "Fonction Rotation de la Figureb N°%d : durée  <= 0!!!", Num);
-    return;
-  }
+  if (!TesteTemps(Num, t, "Fonction Rotation N°%d : durée  <= 0!!!", "Fonction Rotation de la Figureb N°%d : durée  <= 0!!!")) return;
   Rotation(t, Angle);
   SetOrientation({{0, 0, 1}, {std::sin(Radians(Angle)), std::cos(Radians(Angle)), 0}});
   ClePosition(t);
@@ -134,14 +125,10 @@ void CV::Rot(int Num, float t, float Angle) {
 }
 
 void CV::Axel(int Num, float t, float Duree, bool Gauche) {
-  if (!(t > T)) {
-    if (Gauche)
-      Signale("Fonction AxelG N°%d: Pb Durée Axel!!!", "Fonction AxelG de la Figure N°%d: Pb Durée Axel!!!", Num);
-    else
-      Signale("Fonction AxelD N°%d: Pb Temps Axel Droite!!!",
-              "Fonction AxelD de la Figure N°%d: Pb Temps Axel Droite!!!", Num);
+  if (!TesteTemps(Num, t, Gauche ? "Fonction AxelG N°%d: Pb Durée Axel!!!" : "Fonction AxelD N°%d: Pb Temps Axel Droite!!!",
+                  Gauche ? "Fonction AxelG de la Figure N°%d: Pb Durée Axel!!!"
+                         : "Fonction AxelD de la Figure N°%d: Pb Temps Axel Droite!!!"))
     return;
-  }
   // Eleven equal parts for the axel itself, and a pause after the first when time is left.
   float d = Duree / 11.0f;
   float p = (t - T) - Duree;
@@ -167,10 +154,7 @@ void CV::AxelG(int Num, float t, float Duree) { Axel(Num, t, Duree, true); }
 void CV::AxelD(int Num, float t, float Duree) { Axel(Num, t, Duree, false); }
 
 void CV::Stop(int Num, float t) {
-  if (!(t > T)) {
-    Signale("Fonction Stop N°%d : durée  <= 0!!!", "Fonction Stop de la Figureb N°%d : durée  <= 0!!!", Num);
-    return;
-  }
+  if (!TesteTemps(Num, t, "Fonction Stop N°%d : durée  <= 0!!!", "Fonction Stop de la Figureb N°%d : durée  <= 0!!!")) return;
   CleOrientation(T + 10.0f, ATTITUDE_N);
   SetOrientation(ATTITUDE_N);
   ClePosition(t);
@@ -179,15 +163,10 @@ void CV::Stop(int Num, float t) {
 }
 
 void CV::Flat540(int Num, float t, bool Droite) {
-  if (!(t > T)) {
-    if (Droite)
-      Signale("Fonction 540D N°%d: Pb Temps 540 Droite!!!", "Fonction 540D de la Figure  N°%d: Pb Temps 540 Droite!!!",
-              Num);
-    else
-      Signale("Fonction 540 N°%d: Pb Temps 540 Gauche!!!", "Fonction 540 de la Figure N°%d: Pb Temps 540 Gauche!!!",
-              Num);
+  if (!TesteTemps(Num, t, Droite ? "Fonction 540D N°%d: Pb Temps 540 Droite!!!" : "Fonction 540 N°%d: Pb Temps 540 Gauche!!!",
+                  Droite ? "Fonction 540D de la Figure  N°%d: Pb Temps 540 Droite!!!"
+                         : "Fonction 540 de la Figure N°%d: Pb Temps 540 Gauche!!!"))
     return;
-  }
   // Lying flat, sail up, the nose turns in the horizontal plane.
   const float d = (t - T) / 9.0f;
   const float T0 = T;
@@ -209,13 +188,10 @@ void CV::Flat540G(int Num, float t) { Flat540(Num, t, false); }
 
 bool CV::ParcourtArc(int Num, float t, float cx, float cy, float ex, float ey, bool Sens, bool avecCap, float& kx,
                      float& ky, float& ux, float& uy) {
-  if (!(t > T)) {
-    if (avecCap)
-      Signale("Fonction Arc N°%d : durée <= 0!!!", "Fonction Arc de la Figure N°%d : durée <= 0!!!", Num);
-    else
-      Signale("Fonction ArcRevo N°%d : durée <= 0!!!", "Fonction ArcREvo de la Figure N°%d : durée <= 0!!!", Num);
+  if (!TesteTemps(Num, t, avecCap ? "Fonction Arc N°%d : durée <= 0!!!" : "Fonction ArcRevo N°%d : durée <= 0!!!",
+                  avecCap ? "Fonction Arc de la Figure N°%d : durée <= 0!!!"
+                          : "Fonction ArcREvo de la Figure N°%d : durée <= 0!!!"))
     return false;
-  }
   if ((X == cx && Y == cy) || (ex == cx && ey == cy)) {
     Signale(avecCap ? "Fonction Arc N°%d : rayon nul!!!" : "Fonction ArcRevo N°%d : rayon nul!!!", nullptr, Num);
     return false;
@@ -262,13 +238,9 @@ void CV::ArcRevo(int Num, float t, float cx, float cy, float ex, float ey, bool 
   if (!ParcourtArc(Num, t, cx, cy, ex, ey, Sens, false, kx, ky, ux, uy)) return;
   // The heading turns on its own, whatever the curve.
   Rotation(t, Angle);
-  T = t;
-  X = kx;
-  Y = ky;
   xY = std::sin(Radians(Angle));
   yY = std::cos(Radians(Angle));
-  ClePosition(t);
-  CleOrientation(t);
+  Arrive(t, kx, ky);
 }
 
 void CV::Pose(int Num, float t1, float t2, const TVecteur3& U, float H, float tg, const char* texte,
@@ -307,19 +279,9 @@ void CV::PoseDroite(int Num, float t1, float t2) {
 }
 
 void CV::Derapage(int Num, float t, float x, float y) {
-  if (!(t > T)) {
-    Signale("Fonction Dérapage N°%d : durée <= 0!!!", "Fonction Dérapage de la Figure N°%d : durée <= 0!!!", Num);
-    return;
-  }
-  if (x == X && y == Y) {
-    Signale("Fonction Dérapage N°%d: longueur nulle!!!", "Fonction Dérapage de la Figure N°%d: longueur nulle!!!", Num);
-    return;
-  }
+  if (!TesteTemps(Num, t, "Fonction Dérapage N°%d : durée <= 0!!!", "Fonction Dérapage de la Figure N°%d : durée <= 0!!!")) return;
+  if (!TesteLongueur(Num, x, y, "Fonction Dérapage N°%d: longueur nulle!!!", "Fonction Dérapage de la Figure N°%d: longueur nulle!!!")) return;
   CleOrientation(T + 20.0f, ATTITUDE_N);
-  T = t;
-  X = x;
-  Y = y;
   SetOrientation(ATTITUDE_N);
-  ClePosition(t);
-  CleOrientation(t);
+  Arrive(t, x, y);
 }

@@ -35,6 +35,11 @@ public:
   float xY = 0, yY = 1, zY = 0;  // the model's y axis: where the nose points
 
 private:
+  // The tests of the operations; false, with the report said, when one fails.
+  bool TesteTemps(int Num, float t, const char* texte, const char* texteFigure);
+  bool TesteLongueur(int Num, float x, float y, const char* texte, const char* texteFigure);
+  // Ends an element at (x, y) at t: the state moves there and a key of each kind is laid.
+  void Arrive(float t, float x, float y);
   void ClePosition(float t, float x, float y, float z);
   void ClePosition(float t) { ClePosition(t, X, Y, Z); }  // the stored position, pinned
   void CleOrientation(float t, const TOrientation& o);

@@ -124,6 +124,15 @@ TEST_F(CVTest, BadTimeIsReportedAndTheNextElementGoesOnFromTheSameState) {
       "!!!! Fonction Segment de la FigureN°7 : durée <= 0!!!", "!!!! Fonction Segment N°-7: longueur nulle!!!",
       "!!!! Fonction Dérapage de la Figure N°7: longueur nulle!!!"};
   EXPECT_EQ(dialogues.Statuts, attendus);
+  cv.AxelD(-3, 10, 110);
+  cv.Flat540G(4, 10);
+  cv.ArcRevo(-2, 10, 0, 0, 5, 5, true, 0);
+  cv.Pose2(6, 5, 10);
+  const std::vector<std::string> suite = {"!!!! Fonction AxelD de la Figure N°3: Pb Temps Axel Droite!!!",
+                                          "!!!! Fonction 540 N°4: Pb Temps 540 Gauche!!!",
+                                          "!!!! Fonction ArcREvo de la Figure N°2 : durée <= 0!!!",
+                                          "!!!! Fonction Posé2 N°6 : durée trop faible!!!"};
+  EXPECT_EQ(std::vector<std::string>(dialogues.Statuts.end() - 4, dialogues.Statuts.end()), suite);
   cv.Derapage(4, 200, 40, 0);
   EXPECT_EQ(Temps(tr, false).back(), 200.0f);
   EXPECT_EQ(cv.X, 40.0f);
