@@ -142,9 +142,20 @@ void TElt::Enregistrer(std::string& Fichier, int decalageFeuille, float decalage
   // counts as kite 0 on the first sheet: both exist in every document.
   const int kite = pListeCV ? pListeCV->Num : 0;
   const int feuille = pFen ? pFen->Num : 1;
-  Fichier += '\t' + std::to_string(kite) + '\t' + std::to_string(Num) + '\t' + std::to_string(Contrainte) + '\t' +
-             std::to_string(feuille - decalageFeuille) + '\t' + Gcvt(Gett2Param() - decalageTemps, 6) + "\t\t" +
-             Gcvt(x.GetParam(), 4) + "  " + Gcvt(y.GetParam(), 4) + "\t\t" + Gcvt(V.GetParam(), 4) + '\t';
+  // Appended piece by piece: a routine of many thousand lines is written in one buffer.
+  for (int n : {kite, Num, Contrainte, feuille - decalageFeuille}) {
+    Fichier += '\t';
+    Fichier += std::to_string(n);
+  }
+  Fichier += '\t';
+  AjouteGcvt(Fichier, Gett2Param() - decalageTemps, 6);
+  Fichier += "\t\t";
+  AjouteGcvt(Fichier, x.GetParam(), 4);
+  Fichier += "  ";
+  AjouteGcvt(Fichier, y.GetParam(), 4);
+  Fichier += "\t\t";
+  AjouteGcvt(Fichier, V.GetParam(), 4);
+  Fichier += '\t';
 }
 
 void TElt::Enregistrer2(std::string& Fichier) {

@@ -1,9 +1,16 @@
 #include "model/Nombres.h"
 
-#include <cstdio>
+#include <charconv>
+
+void AjouteGcvt(std::string& texte, double valeur, int chiffres) {
+  // to_chars with a precision writes what printf's %.*g writes, in the C locale, faster.
+  char tampon[64];
+  const auto [fin, erreur] = std::to_chars(tampon, tampon + sizeof tampon, valeur, std::chars_format::general, chiffres);
+  if (erreur == std::errc()) texte.append(tampon, fin);
+}
 
 std::string Gcvt(double valeur, int chiffres) {
-  char tampon[64];
-  std::snprintf(tampon, sizeof tampon, "%.*g", chiffres, valeur);
-  return tampon;
+  std::string texte;
+  AjouteGcvt(texte, valeur, chiffres);
+  return texte;
 }

@@ -5,3 +5,5 @@
 // The value with at most `chiffres` significant digits, as printf's %g writes it: no trailing
 // zeros, no trailing point, the exponent form once the value needs it.
 std::string Gcvt(double valeur, int chiffres);
+// The same, written at the end of `texte`.
+void AjouteGcvt(std::string& texte, double valeur, int chiffres);
