@@ -1,6 +1,9 @@
 #include "app/App.h"
 
+#include "demo/D3DDemo.h"
 #include "model/Document.h"
+
+#include <QStatusBar>
 
 #include <cstdlib>
 #include <cstring>
@@ -32,8 +35,12 @@ void TApp::Demarre() {
 }
 
 bool TApp::IdleAction() {
-  const bool scene = Globals.blActif && Globals.blDemoOK;
-  // The scene's Go() will be called here.
+  const bool scene = Globals.blActif && Globals.blDemoOK && Globals.pD3DDemo;
+  if (scene) {
+    // Time comes from the clock inside Go, so the frame rate does not change the speed.
+    Globals.pD3DDemo->Go();
+    if (lecteur_) lecteur_->statusBar()->showMessage(QStringLiteral("T = %1").arg(Globals.pD3DDemo->tCourant));
+  }
   const int intervalle = scene ? 0 : IDLE_SANS_SCENE_MS;
   if (idle_.interval() != intervalle) idle_.setInterval(intervalle);
   return scene;

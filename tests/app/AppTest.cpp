@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Attente.h"
+#include "demo/Demonstration.h"
 #include "support/Doubles.h"
 #include "app/App.h"
 #include "editor/FenDessin.h"
@@ -134,10 +135,16 @@ TEST_F(AppTest, IdlePollsSlowlyUnlessASceneIsRunning) {
   EXPECT_FALSE(app->IdleAction());
   EXPECT_GT(app->IntervalleIdle(), 0);
 
-  // The timer itself notices the scene, without anyone calling IdleAction.
-  Globals.blActif = 1;
-  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() == 0; }, 2000));
+  // The timer itself notices a scene, without anyone calling IdleAction, plays it and shows
+  // its time on the player's status bar.
   Globals.blDemoOK = 0;
+  Scripte();  // no model file here: the scene's boxes go to the script
+  InitDemo(1, 1000.0f);
+  ASSERT_EQ(Globals.blDemoOK, 1);
+  ASSERT_EQ(Globals.blActif, 1);
+  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() == 0; }, 2000));
+  EXPECT_TRUE(AttendQue([&] { return app->Lecteur()->statusBar()->currentMessage() == QStringLiteral("T = 0"); }, 2000));
+  FermeDemo();
   EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() > 0; }, 2000));
 }
 
