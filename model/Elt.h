@@ -2,8 +2,8 @@
 // One stretch of a kite's flight: the base of every element class.
 //
 // An element stores its end point and end time; its start is the end of the element before
-// it in the track. Drawing, property bars, solving, writing and flight operations are added
-// to this class by the parts of the program that own them.
+// it in the track. Its time operations are in Solveur.cpp; drawing and the property bars'
+// operations join the class with the editor's views.
 #include <string>
 
 #include "model/ListeCV.h"
