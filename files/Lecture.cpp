@@ -124,7 +124,6 @@ bool LitChamps(TLecteurChamps& champs, TLigne& l) {
 TElt* Construit(const TLigne& l, TFenDessin* fen, TListeCV* liste) {
   const TPoint p(Tronque(l.x), Tronque(l.y));
   const auto& r = l.Reels;
-  const auto& d = l.Entiers;
   switch (l.Def->Record) {
     case TRecord::Point: return new TPt(p, fen, nullptr, liste, true);
     case TRecord::Segment: return new TSegment(p, fen, nullptr, liste, true);
@@ -140,7 +139,6 @@ TElt* Construit(const TLigne& l, TFenDessin* fen, TListeCV* liste) {
     case TRecord::AllerA: return new TAllerA(p, fen, nullptr, liste, true);
     case TRecord::Figure: return new TFigure(p, fen, nullptr, liste, l.Mot.c_str(), true);
   }
-  (void)d;
   return nullptr;
 }
 
