@@ -95,6 +95,10 @@ int Echantillon(const std::vector<std::string>& args) {
 
 }  // namespace
 
+#ifdef TRAJ_AVEC_RENDU
+int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
+#endif
+
 const std::vector<TCommande>& Commandes() {
   static const std::vector<TCommande> commandes = {
       {"resave", "IN OUT", "relit la routine IN et l'écrit dans OUT, sans rien recalculer",
@@ -103,6 +107,10 @@ const std::vector<TCommande>& Commandes() {
        [](const std::vector<std::string>& a) { return Reenregistre(a, true); }},
       {"keys", "IN", "relit IN, construit le vol comme la démo, écrit chaque clé posée puis END tFin", Cles},
       {"sample", "IN T", "le même vol, puis la pose de chaque cerf-volant au temps T", Echantillon},
+#ifdef TRAJ_AVEC_RENDU
+      {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1)",
+       Rend},
+#endif
   };
   return commandes;
 }

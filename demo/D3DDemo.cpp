@@ -6,6 +6,7 @@
 
 #include "demo/Journal.h"
 #include "platform/Dialogues.h"
+#include "platform/Donnees.h"
 #include "platform/Horloge.h"
 #include "platform/Son.h"
 
@@ -65,7 +66,10 @@ const char* TD3DDemo::FichierJournal() {
   return Journal.c_str();
 }
 
-TD3DDemo::~TD3DDemo() { Rendu.LibereDispositif(); }
+TD3DDemo::~TD3DDemo() {
+  if (Monde != CADRE_AUCUN) Rendu.LibereCadre(Monde);
+  Rendu.LibereDispositif();
+}
 
 bool TD3DDemo::blCreateDeviceAndViewport() {
   Rendu.LibereDispositif();
@@ -90,7 +94,7 @@ bool TD3DDemo::blCreateScene() {
   // A kite whose model cannot be had is left out of the scene: its keys are laid all the
   // same, but nothing is drawn for it.
   for (int i = 0; i < nbCV && i < NB_CV_MAX; ++i) ChargerFrameCV(i, &Modeles[i], Team);
-  if (long r = Rendu.ChargeFond("Nuages.bmp")) {
+  if (long r = Rendu.ChargeFond(CheminDonnee("Nuages.bmp"))) {
     DXERROR_Direct3DRM(FichierJournal(), 30, r);
     return false;
   }
@@ -102,15 +106,16 @@ bool TD3DDemo::ChargerFrameCV(int i, TIdCadre* pCadre, int Team_) {
   char fichier[52];
   std::snprintf(fichier, sizeof fichier, "CV%d_%d.x", Team_, k);
   char texte[128];
+  const std::string chemin = CheminDonnee(fichier);
   std::error_code erreur;
-  if (!std::filesystem::is_regular_file(fichier, erreur)) {
+  if (!std::filesystem::is_regular_file(chemin, erreur)) {
     std::snprintf(texte, sizeof texte, "fichier CV%d.x inexistant", k);
     Dialogues().MessageBox(texte, "Ouvrir fichier CV.x");
     return false;
   }
   char nom[32];
   std::snprintf(nom, sizeof nom, "FRAME_CV%d", k);
-  if (Rendu.ChargeModele(fichier, nom, Monde, *pCadre)) {
+  if (Rendu.ChargeModele(chemin, nom, Monde, *pCadre)) {
     *pCadre = CADRE_AUCUN;
     std::snprintf(texte, sizeof texte, "Echec chargement CV%d.x : ça va planter!!!", k);
     Dialogues().MessageBox(texte, "CreateScene()");

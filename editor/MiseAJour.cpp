@@ -4,6 +4,7 @@
 
 #include "demo/D3DDemo.h"
 #include "demo/Demonstration.h"
+#include "demo/player/FenApp.h"
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
 #include "model/Document.h"
@@ -73,9 +74,15 @@ void TFenDessin::Demo() {
     const float t = static_cast<TElt*>(TabLElt[i].Dernier())->Gett2Param();
     if (i == 0 || t < tMin) tMin = t;
   }
-  // The scene ends with the shortest kite.
-  FermeDemo();
-  InitDemo(nbCV, tMin - 1.0f);
+  // The scene ends with the shortest kite. Through the player when there is one, so that its
+  // bars show the new scene; the command-line companion has none.
+  if (pFenAppDemo) {
+    pFenAppDemo->FermeDemo();
+    pFenAppDemo->InitDemo(nbCV, tMin - 1.0f);
+  } else {
+    FermeDemo();
+    InitDemo(nbCV, tMin - 1.0f);
+  }
   // Walked without the lists' cursor, which the elements use themselves.
   for (int i = 0; i < nbCV; ++i)
     for (TNoeud* n = TabLElt[i].Init2(); n; n = n->GetSuivant()) static_cast<TElt*>(n)->DirectX();

@@ -1,6 +1,7 @@
 #include "model/Document.h"
 
 #include "demo/D3DDemo.h"
+#include "demo/player/FenApp.h"
 #include "editor/FenDessin.h"
 #include "model/Elt.h"
 
@@ -76,4 +77,5 @@ void ReinitialiseDocument() {
   TElt::NbElt = 0;
   TFenDessin::ReinitialiseStatiques();
   TD3DDemo::ReinitialiseStatiques();
+  TFenApp::ReinitialiseStatiques();
 }

@@ -30,6 +30,8 @@ public:
   virtual long Connecte() = 0;
   // A new frame under `parent`, or a root with CADRE_AUCUN.
   virtual long CreeCadre(TIdCadre parent, TIdCadre& cadre) = 0;
+  // Releases a frame with everything under it (models included).
+  virtual void LibereCadre(TIdCadre cadre) = 0;
   // The client area's present size, in pixels.
   virtual TSize TailleClient() = 0;
   // The drawing device at that size, made again when the window's size changes.
@@ -44,6 +46,7 @@ public:
                             TIdCadre& cadre) = 0;
   // The picture that fills the background behind the kites.
   virtual long ChargeFond(const std::string& fichier) = 0;
+  // Position and orientation are given relative to the world, as the scene places every frame.
   virtual long PlaceCadre(TIdCadre cadre, const TVecteur3& position) = 0;
   virtual long OrienteCadre(TIdCadre cadre, const TOrientation& orientation) = 0;
   // One picture: cleared, drawn from the root frame, then shown.
@@ -61,6 +64,7 @@ public:
     cadre = Suivant++;
     return 0;
   }
+  void LibereCadre(TIdCadre) override {}
   TSize TailleClient() override { return TSize{400, 200}; }
   long CreeDispositif(int, int) override { return 0; }
   void LibereDispositif() override {}

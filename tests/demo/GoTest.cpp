@@ -2,6 +2,8 @@
 // music's orders, the models placed from their tracks, and failures sent to the log.
 #include <gtest/gtest.h>
 
+#include "platform/Donnees.h"
+
 #include <cmath>
 #include <cstdlib>
 #include <string>
@@ -67,12 +69,14 @@ protected:
     SetSon(&son);
     setenv("XDG_STATE_HOME", (dossier / "etat").string().c_str(), 1);
     Ecrit("CV1_1.x", "modèle");  // the first kite's model, which every scene loads
+    SetDossierDonnees(dossier.string());  // the installation's models must not stand in
   }
   void TearDown() override {
     demo.reset();
     SetHorloge(nullptr);
     SetSon(nullptr);
     unsetenv("XDG_STATE_HOME");
+    SetDossierDonnees("");
     FichiersTest::TearDown();
   }
   TD3DDemo& Scene(float tFin = 100, int kites = 1) {

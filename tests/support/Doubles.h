@@ -91,7 +91,9 @@ public:
   std::optional<std::string> FichierAEnregistrer(const std::string&, const std::string&) override {
     return Prochain();
   }
-  std::optional<std::string> Saisie(const std::string&, const std::string&, const std::string&) override {
+  std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
+                                    const std::string& valeur) override {
+    Saisies.push_back({titre, invite, valeur});
     return Prochain();
   }
   void SetCurseur(TCurseur c) override { Curseur = c; }
@@ -100,6 +102,12 @@ public:
   TReponse ParDefaut = TReponse::OK;  // the answer once they are used up
   std::deque<std::optional<std::string>> Textes;  // answers to the next file or input dialogs
   std::vector<Boite> Boites;
+  struct DemandeSaisie {
+    std::string Titre;
+    std::string Invite;
+    std::string Valeur;
+  };
+  std::vector<DemandeSaisie> Saisies;  // the input dialogs shown, with their first value
   std::vector<std::string> Statuts;
   int Bips = 0;
   TCurseur Curseur = TCurseur::Fleche;

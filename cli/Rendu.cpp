@@ -1,0 +1,111 @@
+// trajectoires-cli render: one frame of the demonstration, drawn offscreen, as a PNG.
+#include "Commandes.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include <QGuiApplication>
+#include <QImage>
+
+#include "demo/D3DDemo.h"
+#include "demo/Demonstration.h"
+#include "demo/Journal.h"
+#include "editor/FenCadre2.h"
+#include "editor/FenDessin.h"
+#include "files/Lecture.h"
+#include "model/Document.h"
+#include "platform/gl/RenduGL.h"
+#include "platform/gl/ServeurX.h"
+#include "platform/gl/SurfaceHorsEcran.h"
+
+namespace {
+bool LitEntier(const std::string& texte, int& valeur) {
+  char* fin = nullptr;
+  const long v = std::strtol(texte.c_str(), &fin, 10);
+  if (texte.empty() || *fin != '\0' || v < 0 || v > 100000000) return false;
+  valeur = static_cast<int>(v);
+  return true;
+}
+
+bool LitTaille(const std::string& texte, int& largeur, int& hauteur) {
+  const auto x = texte.find('x');
+  return x != std::string::npos && LitEntier(texte.substr(0, x), largeur) &&
+         LitEntier(texte.substr(x + 1), hauteur) && largeur > 0 && hauteur > 0 && largeur <= 16384 &&
+         hauteur <= 16384;
+}
+
+int Usage(const char* pourquoi) {
+  std::fprintf(stderr, "trajectoires-cli : %s ; render IN T OUT.png [--size LxH] [--team N] (voir --help)\n",
+               pourquoi);
+  return 2;
+}
+}  // namespace
+
+int Rend(const std::vector<std::string>& args) {
+  std::vector<std::string> positionnels;
+  int largeur = 800, hauteur = 400, equipe = 1;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--size" || args[i] == "--team") {
+      if (i + 1 >= args.size()) return Usage("valeur manquante après une option");
+      const std::string& v = args[++i];
+      if (args[i - 1] == "--size" ? !LitTaille(v, largeur, hauteur)
+                                  : !LitEntier(v, equipe) || equipe < 1 || equipe > 5)
+        return Usage("valeur d'option illisible");
+    } else {
+      positionnels.push_back(args[i]);
+    }
+  }
+  int t = 0;
+  if (positionnels.size() != 3) return Usage("il faut IN, T et OUT.png");
+  if (!LitEntier(positionnels[1], t)) return Usage("T doit être un entier positif, en centièmes de seconde");
+
+  std::string erreur;
+  TServeurX serveur;
+  if (!serveur.Assure(erreur)) {
+    std::fprintf(stderr, "trajectoires-cli : pas d'affichage pour OpenGL : %s\n", erreur.c_str());
+    return 1;
+  }
+  // No window is ever shown: the offscreen platform, with GLX from the X server.
+  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  int argc = 1;
+  char nom[] = "trajectoires-cli";
+  char* argv[] = {nom, nullptr};
+  QGuiApplication application(argc, argv);
+
+  TSurfaceHorsEcran surface(QSize(largeur, hauteur));
+  TRenduGL rendu(surface);
+  SetRendu(&rendu);
+  Team = equipe;
+  int code = 0;
+  TFenCadre2 cadre;
+  cadre.SetupWindow();
+  if (!LitRoutine(cadre, positionnels[0])) {
+    std::fprintf(stderr, "trajectoires-cli : impossible de lire « %s »\n", positionnels[0].c_str());
+    code = 1;
+  } else {
+    TFenDessin::Demo();
+    TD3DDemo* scene = Globals.pD3DDemo;
+    if (!scene) {
+      std::fprintf(stderr, "trajectoires-cli : pas de scène à dessiner (voir le journal %s)\n",
+                   CheminJournal().c_str());
+      code = 1;
+    } else {
+      if (static_cast<float>(t) >= scene->tFin)
+        std::fprintf(stderr, "trajectoires-cli : T = %d est après la fin (%d) : image au temps 0\n", t,
+                     static_cast<int>(scene->tFin));
+      // Held at T as the player's "back to the start" holds it.
+      scene->tDebut = t;
+      scene->Mode = MODE_DEBUT;
+      TD3DDemo::_Debut = true;
+      scene->Go();
+      if (surface.Image().isNull() || !surface.Image().save(QString::fromStdString(positionnels[2]), "PNG")) {
+        std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", positionnels[2].c_str());
+        code = 1;
+      }
+    }
+  }
+  FermeDemo();
+  SetRendu(nullptr);
+  return code;
+}

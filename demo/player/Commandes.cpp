@@ -1,0 +1,93 @@
+#include "demo/player/Commandes.h"
+
+namespace {
+constexpr TEntreeMenu ReglageLecture[] = {
+    {CM_ARRIERE, "A&rrière"},
+    {CM_LECTURE, "&Lecture"},
+    {CM_PAUSE, "&Pause"},
+    {CM_DEBUT, "&Début"},
+    {CM_PAS_AVANT, "P&as à pas Avant"},
+    {CM_PAS_ARRIERE, "Pa&s à pas Arrière"},
+    {CM_PLUS_RAPIDE, "Plus rap&ide"},
+    {CM_PLUS_LENT, "Plus &lent"},
+    {CM_VITESSE_NORMALE, "Vitesse normale"},
+};
+
+constexpr TEntreeMenu Scene[] = {
+    {CM_ROTATION_GAUCHE, "Rotation &Gauche"},
+    {CM_ROTATION_DROITE, "Rotation &Droite"},
+    {CM_ZOOM_PLUS, "Zoom &Plus"},
+    {CM_ZOOM_MOINS, "Zoom &Moins"},
+    {CM_DEPLACEMENT_HAUT, "Déplacement &Haut"},
+    {CM_DEPLACEMENT_BAS, "Déplacement &Bas"},
+    {CM_SOLEIL_GAUCHE, "Soleil G&auche"},
+    {CM_SOLEIL_DROITE, "Soleil D&roite"},
+    {CM_REGLAGES_DEFAUT, "&Réglages par défaut"},
+};
+
+constexpr TEntreeMenu Options[] = {
+    {CM_TEMPS_DEBUT, "&Temps Début"},
+    {0, nullptr},
+    {CM_TEAM1, "Team N°&1 : Orvane"},
+    {CM_TEAM2, "Team N°&2 : Couleurs"},
+    {CM_TEAM3, "Team N°&3 : Tessel"},
+    {CM_TEAM4, "Team N°&4 : Révo"},
+    {CM_TEAM5, "Team N°&5 "},
+};
+
+constexpr TMenuDeroulant Menu[] = {
+    {"&Reglage Lecture", ReglageLecture},
+    {"&Scène", Scene},
+    {"&Options", Options},
+};
+
+constexpr TGadgetBarre Bouton(int bitmap, unsigned id) { return {TGenreGadget::Bouton, bitmap, id, 0}; }
+constexpr TGadgetBarre Separateur(int largeur) { return {TGenreGadget::Separateur, 0, 0, largeur}; }
+
+constexpr TGadgetBarre Barre[] = {
+    Bouton(206, CM_PAS_ARRIERE),
+    Bouton(203, CM_ARRIERE),
+    Bouton(200, CM_LECTURE),
+    Bouton(201, CM_PAUSE),
+    Bouton(204, CM_DEBUT),
+    Bouton(205, CM_PAS_AVANT),
+    Separateur(10),
+    Bouton(219, CM_TEMPS_DEBUT),
+    {TGenreGadget::Texte, 0, GADGET_DEBUT, 3},
+    Separateur(10),
+    Bouton(207, CM_PLUS_RAPIDE),
+    Bouton(209, CM_VITESSE_NORMALE),
+    Bouton(208, CM_PLUS_LENT),
+    Separateur(40),
+    Bouton(218, CM_REGLAGES_DEFAUT),
+    Separateur(10),
+    Bouton(210, CM_ROTATION_GAUCHE),
+    Bouton(211, CM_ROTATION_DROITE),
+    Separateur(10),
+    Bouton(212, CM_ZOOM_PLUS),
+    Bouton(213, CM_ZOOM_MOINS),
+    Separateur(10),
+    Bouton(214, CM_DEPLACEMENT_HAUT),
+    Bouton(215, CM_DEPLACEMENT_BAS),
+    Separateur(10),
+    Bouton(216, CM_SOLEIL_GAUCHE),
+    Bouton(217, CM_SOLEIL_DROITE),
+    Separateur(10),
+};
+
+constexpr TGadgetStatut Statut[] = {{GADGET_T, 10}, {GADGET_V, 10}, {GADGET_PAS, 10}};
+}  // namespace
+
+std::span<const TMenuDeroulant> MenuLecteur() { return Menu; }
+
+const char* TexteCommande(unsigned id) {
+  if (id == 0) return nullptr;
+  for (const TMenuDeroulant& m : Menu)
+    for (const TEntreeMenu& e : m.Entrees)
+      if (e.Id == id) return e.Texte;
+  return nullptr;
+}
+
+std::span<const TGadgetBarre> BarreLecteur() { return Barre; }
+
+std::span<const TGadgetStatut> BarreStatutLecteur() { return Statut; }

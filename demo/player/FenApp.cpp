@@ -1,0 +1,252 @@
+#include "demo/player/FenApp.h"
+
+#include <climits>
+#include <cstdlib>
+
+#include "demo/D3DDemo.h"
+#include "demo/Demonstration.h"
+#include "demo/player/Commandes.h"
+#include "editor/FenDessin.h"
+#include "model/Document.h"
+#include "model/Nombres.h"
+#include "platform/Dialogues.h"
+
+bool TFenApp::PremierPaint = true;
+int TFenApp::DerniereCommande = CM_PAUSE;
+
+void TFenApp::ReinitialiseStatiques() {
+  PremierPaint = true;
+  DerniereCommande = CM_PAUSE;
+}
+
+namespace {
+// The scene the commands act on: none after a failed construction.
+TD3DDemo* SceneUtilisable() { return Globals.blDemoOK ? Globals.pD3DDemo : nullptr; }
+
+void Bip() { Dialogues().MessageBeep(-1); }
+
+// A value held at its limit, with a beep when it went past.
+template <typename T>
+void Plancher(T& v, T limite) {
+  if (v < limite) {
+    v = limite;
+    Bip();
+  }
+}
+template <typename T>
+void Plafond(T& v, T limite) {
+  if (v > limite) {
+    v = limite;
+    Bip();
+  }
+}
+
+std::string TexteVitesse(const TD3DDemo& s) { return "V = " + Gcvt(10.0f / static_cast<float>(s.Periode), 2); }
+std::string TextePas(const TD3DDemo& s) { return "Pas = " + std::to_string(s.Pas); }
+
+constexpr float DIX_DEGRES = 0.17453294f;
+}  // namespace
+
+TFenApp::TFenApp(TFenCadre* cadre) : pFenCadre(cadre) {
+  pFenAppDemo = this;
+  _FichierMusique[0] = '\0';
+}
+
+TFenApp::~TFenApp() {
+  if (pFenAppDemo == this) pFenAppDemo = nullptr;
+}
+
+void TFenApp::Texte(TZoneLecteur zone, const std::string& texte) {
+  if (pFenCadre) pFenCadre->SetTexte(zone, texte);
+}
+
+void TFenApp::AfficheEtat(const TD3DDemo& s) {
+  Texte(TZoneLecteur::Pas, TextePas(s));
+  Texte(TZoneLecteur::V, TexteVitesse(s));
+}
+
+void TFenApp::InitDemo(int nbCV_, float tFin) {
+  ::InitDemo(nbCV_, tFin);
+  TD3DDemo* s = SceneUtilisable();
+  if (!s) return;
+  // Said even though the scene is paused: it is what "&Lecture" will do.
+  Texte(TZoneLecteur::Message, "Lecture avant");
+  AfficheEtat(*s);
+  s->tDebut = tDebut;
+  Texte(TZoneLecteur::Debut, std::to_string(tDebut));
+}
+
+void TFenApp::FermeDemo() { ::FermeDemo(); }
+
+bool TFenApp::Paint() {
+  if (PremierPaint) {
+    InitDemo(1, 1000.0f);
+    PremierPaint = false;
+  }
+  return Globals.blDemoOK != 0;
+}
+
+bool TFenApp::IdleAction() {
+  if (Globals.blActif != 1 || Globals.blDemoOK != 1 || !Globals.pD3DDemo) return false;
+  Globals.pD3DDemo->Go();
+  Texte(TZoneLecteur::T, "T = " + std::to_string(static_cast<int>(Globals.pD3DDemo->tCourant)));
+  return true;
+}
+
+void TFenApp::Trt_Menu(unsigned id) {
+  if (!TexteCommande(id)) return;
+  if (id >= CM_TEAM1 && id <= CM_TEAM5) {
+    ChoisitTeam(static_cast<int>(id - CM_TEAM1) + 1);
+    return;
+  }
+  if (id == CM_TEMPS_DEBUT) {
+    SaisitDebut();
+    return;
+  }
+  // With no usable scene the other commands have nothing to act on: a beep, and the
+  // player's state, the last transport command included, stays as it was.
+  TD3DDemo* s = SceneUtilisable();
+  if (!s) {
+    Bip();
+    return;
+  }
+  if (id <= CM_PAS_ARRIERE)
+    Transport(*s, id);
+  else if (id <= CM_VITESSE_NORMALE)
+    Vitesse(*s, id);
+  else
+    Camera(*s, id);
+}
+
+void TFenApp::Transport(TD3DDemo& s, unsigned id) {
+  switch (id) {
+    case CM_LECTURE:
+      s.Mode = MODE_AVANT;
+      Texte(TZoneLecteur::Message, "Lecture avant");
+      AfficheEtat(s);
+      break;
+    case CM_PAUSE:
+      s.Mode = MODE_PAUSE;
+      Texte(TZoneLecteur::Message, "Pause Lecture");
+      break;
+    case CM_ARRIERE:
+      s.Mode = MODE_ARRIERE;
+      Texte(TZoneLecteur::Message, "Lecture arrière");
+      break;
+    case CM_DEBUT:
+      s.Mode = MODE_DEBUT;
+      TD3DDemo::_Debut = true;
+      Texte(TZoneLecteur::Message, "Retour au début");
+      break;
+    case CM_PAS_AVANT:
+      s.Mode = MODE_PAS_AVANT;
+      Texte(TZoneLecteur::Message, "Pas à Pas Avant");
+      break;
+    case CM_PAS_ARRIERE:
+      s.Mode = MODE_PAS_ARRIERE;
+      Texte(TZoneLecteur::Message, "Pas à Pas Arrière");
+      break;
+    default:
+      return;
+  }
+  DerniereCommande = static_cast<int>(id);
+}
+
+void TFenApp::Vitesse(TD3DDemo& s, unsigned id) {
+  // After a step command the speed commands size the step, however long ago it was played.
+  if (DerniereCommande == CM_PAS_AVANT || DerniereCommande == CM_PAS_ARRIERE) {
+    if (id == CM_PLUS_RAPIDE) {
+      s.Pas *= 2;
+      Plafond(s.Pas, 1280);
+    } else if (id == CM_PLUS_LENT) {
+      s.Pas /= 2;
+      Plancher(s.Pas, 5);
+    } else {
+      s.Pas = 80;
+    }
+    Texte(TZoneLecteur::Pas, TextePas(s));
+    return;
+  }
+  // Fine steps near real time, coarse ones in the slow range.
+  const int saut = s.Periode < 20 ? 2 : 6;
+  if (id == CM_PLUS_RAPIDE) {
+    s.Periode -= saut;
+    Plancher(s.Periode, 2);
+  } else if (id == CM_PLUS_LENT) {
+    s.Periode += saut;
+    Plafond(s.Periode, 40);
+  } else {
+    s.Periode = 10;
+    Texte(TZoneLecteur::V, "V = 1 (normal)");
+    return;
+  }
+  Texte(TZoneLecteur::V, TexteVitesse(s));
+}
+
+void TFenApp::Camera(TD3DDemo& s, unsigned id) {
+  switch (id) {
+    case CM_ROTATION_GAUCHE:
+      s.AngleCamera += DIX_DEGRES;
+      break;
+    case CM_ROTATION_DROITE:
+      s.AngleCamera -= DIX_DEGRES;
+      break;
+    case CM_ZOOM_PLUS:
+      s.DistanceCamera -= 20.0f;
+      Plancher(s.DistanceCamera, 20.0f);
+      break;
+    case CM_ZOOM_MOINS:
+      s.DistanceCamera += 20.0f;
+      Plafond(s.DistanceCamera, 300.0f);
+      break;
+    case CM_DEPLACEMENT_HAUT:
+      s.CameraY += 5.0f;
+      Plafond(s.CameraY, 100.0f);
+      break;
+    case CM_DEPLACEMENT_BAS:
+      s.CameraY -= 5.0f;
+      Plancher(s.CameraY, 0.0f);
+      break;
+    case CM_SOLEIL_GAUCHE:
+      s.SoleilX += 0.1f;
+      Plafond(s.SoleilX, 1.0f);
+      break;
+    case CM_SOLEIL_DROITE:
+      s.SoleilX -= 0.1f;
+      Plancher(s.SoleilX, -1.0f);
+      break;
+    case CM_REGLAGES_DEFAUT:
+      s.SoleilX = -0.7f;
+      s.DirX = 0;
+      s.DirZ = 1.0f;
+      s.CameraX = 0;
+      s.CameraY = 54.0f;
+      s.CameraZ = -215.0f;
+      s.AngleCamera = 0;
+      s.DistanceCamera = 215.0f;
+      break;
+    default:
+      break;
+  }
+}
+
+void TFenApp::ChoisitTeam(int team) {
+  // Kept even with no scene: the next demonstration is built with it.
+  Team = team;
+  if (pFenCadre) pFenCadre->CocheEquipe(team);
+  TFenDessin::Demo();
+}
+
+void TFenApp::SaisitDebut() {
+  const auto saisie = Dialogues().Saisie("instant du début", "Saisissez un nombre :", std::to_string(tDebut));
+  if (!saisie) return;
+  Bip();
+  // Read as sscanf's "%d" reads it (blanks, a sign, digits; nothing read keeps the value),
+  // held within an int where it would overflow.
+  const std::string texte = saisie->substr(0, LONGUEUR_MAX_TEMPS_DEBUT);
+  char* fin = nullptr;
+  const long v = std::strtol(texte.c_str(), &fin, 10);
+  if (fin != texte.c_str()) tDebut = static_cast<int>(v < INT_MIN ? INT_MIN : v > INT_MAX ? INT_MAX : v);
+  if (TD3DDemo* s = SceneUtilisable()) s->tDebut = tDebut;
+  Texte(TZoneLecteur::Debut, std::to_string(tDebut));
+}
