@@ -1,7 +1,10 @@
 #include "app/App.h"
 
 #include "demo/D3DDemo.h"
+#include "demo/player/FenApp.h"
 #include "model/Document.h"
+#include "platform/Rendu.h"
+#include "platform/Son.h"
 
 #include <QStatusBar>
 
@@ -18,6 +21,10 @@ TApp::TApp() {
 
 TApp::~TApp() {
   idle_.stop();
+  // The scene and its music go before the player's view, whose context holds the pictures.
+  if (lecteur_) lecteur_->Cadre().Client().FermeDemo();
+  SetRendu(nullptr);
+  if (&Son() == &son_) SetSon(nullptr);
   lecteur_.reset();
   editeur_.reset();
   if (&Dialogues() == &dialogues_) SetDialogues(nullptr);
@@ -28,19 +35,17 @@ void TApp::Demarre() {
   editeur_ = std::make_unique<QFenCadre2>();
   dialogues_.SetParent(editeur_.get());
   dialogues_.SetBarreStatut(editeur_->statusBar());
+  SetSon(&son_);
   lecteur_ = std::make_unique<QFenCadre>();
+  SetRendu(&lecteur_->Vue()->Rendu());
   editeur_->show();
   lecteur_->show();
   idle_.start();
 }
 
 bool TApp::IdleAction() {
-  const bool scene = Globals.blActif && Globals.blDemoOK && Globals.pD3DDemo;
-  if (scene) {
-    // Time comes from the clock inside Go, so the frame rate does not change the speed.
-    Globals.pD3DDemo->Go();
-    if (lecteur_) lecteur_->statusBar()->showMessage(QStringLiteral("T = %1").arg(Globals.pD3DDemo->tCourant));
-  }
+  // Time comes from the clock inside Go, so the frame rate does not change the speed.
+  const bool scene = lecteur_ && lecteur_->Cadre().Client().IdleAction();
   const int intervalle = scene ? 0 : IDLE_SANS_SCENE_MS;
   if (idle_.interval() != intervalle) idle_.setInterval(intervalle);
   return scene;

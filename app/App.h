@@ -3,6 +3,7 @@
 #include "platform/qt/QFenCadre.h"
 #include "platform/qt/QFenCadre2.h"
 #include "platform/qt/QtDialogues.h"
+#include "platform/sdl/SonSDL.h"
 
 #include <QObject>
 #include <QTimer>
@@ -29,6 +30,7 @@ public:
 
 private:
   TQtDialogues dialogues_;  // declared first: the windows may still use it while dying
+  TSonSDL son_;
   std::unique_ptr<QFenCadre2> editeur_;
   std::unique_ptr<QFenCadre> lecteur_;
   QTimer idle_;

@@ -1,5 +1,8 @@
 #include "editor/FenCadre2.h"
 
+#include "demo/Demonstration.h"
+#include "demo/player/FenApp.h"
+
 #include "editor/FenDessin.h"
 #include "model/Document.h"
 #include "platform/Dialogues.h"
@@ -44,6 +47,13 @@ bool TFenCadre2::InsereFeuille() {
 
 bool TFenCadre2::CanClose() {
   // Nothing tracks unsaved changes: this box is the only guard.
-  return Dialogues().MessageBox("Fermeture Définitive ?", "CV", TBoutons::OKAnnuler, TIcone::Question) ==
-         TReponse::OK;
+  if (Dialogues().MessageBox("Fermeture Définitive ?", "CV", TBoutons::OKAnnuler, TIcone::Question) !=
+      TReponse::OK)
+    return false;
+  // The music and the scene end with the editor.
+  if (pFenAppDemo)
+    pFenAppDemo->FermeDemo();
+  else
+    FermeDemo();
+  return true;
 }

@@ -41,6 +41,9 @@ public:
   long Dessine(TIdCadre racine) override;
   long Affiche() override;
 
+  // The device's picture, null while there is no device.
+  QOpenGLFramebufferObject* ImageCourante() const { return image_.get(); }
+
   // The projection of the camera for a picture of that size, in the world's coordinates
   // seen from the camera: for tests and for whoever needs to know where a point lands.
   static QMatrix4x4 Projection(int largeur, int hauteur, float profondeur);

@@ -1,19 +1,47 @@
 #pragma once
-// The player's main window: a view over TFenCadre.
+// The player's main window, "CV": a view over TFenCadre. The menu and the control bar are
+// built from the player's command tables; every command goes to TFenApp::Trt_Menu; the bars
+// show the texts the frame holds; the client area is the 3D view.
 #include "demo/player/FenCadre.h"
+#include "platform/qt/QVue3D.h"
 
 #include <QMainWindow>
 
-class QFenCadre : public QMainWindow {
+#include <map>
+
+class QAction;
+class QLabel;
+
+class QFenCadre : public QMainWindow, public TVueLecteur {
   Q_OBJECT
 public:
   explicit QFenCadre(QWidget* parent = nullptr);
+  ~QFenCadre() override;
 
   TFenCadre& Cadre() { return cadre_; }
+  QVue3D* Vue() const { return vue_; }
+  // The action of a command, for tests and for the keyboard.
+  QAction* Action(unsigned id) const;
+  QLabel* Zone(TZoneLecteur zone) const { return zones_[static_cast<int>(zone)]; }
+
+  void TexteChange(TZoneLecteur zone, const std::string& texte) override;
+  void EquipeCochee(int team) override;
 
 protected:
   void closeEvent(QCloseEvent* evenement) override;
+  void changeEvent(QEvent* evenement) override;
 
 private:
+  void CreeMenu();
+  void CreeBarre();
+  void CreeBarreStatut();
+  // The client changed size or the frame its state: the scene follows, and the frame's
+  // height is set to keep the client twice as wide as high.
+  void Redimensionne(TTypeTaille type);
+  QAction* NouvelleAction(unsigned id);
+
   TFenCadre cadre_;
+  QVue3D* vue_ = nullptr;
+  std::map<unsigned, QAction*> actions_;
+  QLabel* zones_[NB_ZONES_LECTEUR] = {};
 };

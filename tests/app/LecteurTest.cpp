@@ -1,0 +1,134 @@
+// The player window of the real application: its bars, its picture, its transport and its
+// shape, on the virtual X server.
+#include <gtest/gtest.h>
+
+#include "Attente.h"
+#include "app/App.h"
+#include "demo/D3DDemo.h"
+#include "demo/player/Commandes.h"
+#include "demo/player/FenApp.h"
+#include "model/Document.h"
+#include "platform/Donnees.h"
+
+#include <QAction>
+#include <QImage>
+#include <QLabel>
+#include <QOpenGLFramebufferObject>
+#include <QMenuBar>
+#include <QSet>
+#include <QToolBar>
+
+#include <memory>
+
+namespace {
+
+class LecteurTest : public ::testing::Test {
+protected:
+  void SetUp() override {
+    ReinitialiseDocument();
+    app = std::make_unique<TApp>();
+    app->Demarre();
+    lecteur = app->Lecteur();
+    // The first paint makes the one-kite scene, and the idle loop draws it.
+    ASSERT_TRUE(AttendQue([&] { return Globals.blDemoOK == 1 && Texte(TZoneLecteur::T) == "T = 0"; }))
+        << "the player never drew its first scene";
+  }
+  void TearDown() override {
+    app.reset();
+    ReinitialiseDocument();
+  }
+  std::string Texte(TZoneLecteur zone) { return lecteur->Zone(zone)->text().toStdString(); }
+  int Temps() { return std::stoi(Texte(TZoneLecteur::T).substr(4)); }
+
+  std::unique_ptr<TApp> app;
+  QFenCadre* lecteur = nullptr;
+};
+
+int Ecart(QRgb a, QRgb b) {
+  return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+}
+
+TEST_F(LecteurTest, StartsPausedOnOneKiteOverTheCloudsWithItsBarsFilled) {
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Lecture avant");
+  EXPECT_EQ(Texte(TZoneLecteur::V), "V = 1");
+  EXPECT_EQ(Texte(TZoneLecteur::Pas), "Pas = 80");
+  EXPECT_EQ(Texte(TZoneLecteur::Debut), "0");
+  ASSERT_NE(Globals.pD3DDemo, nullptr);
+  EXPECT_EQ(Globals.pD3DDemo->nbCV, 1);
+  EXPECT_EQ(Globals.pD3DDemo->Mode, MODE_PAUSE);
+  EXPECT_TRUE(lecteur->Action(CM_TEAM1)->isChecked());
+
+  // The menu's three pop-ups, and nineteen buttons, each with its picture.
+  const auto menus = lecteur->menuBar()->actions();
+  ASSERT_EQ(menus.size(), 3);
+  EXPECT_EQ(menus[0]->text(), QStringLiteral("&Reglage Lecture"));
+  EXPECT_EQ(menus[1]->text(), QStringLiteral("&Scène"));
+  EXPECT_EQ(menus[2]->text(), QStringLiteral("&Options"));
+  int boutons = 0;
+  for (QAction* a : lecteur->findChild<QToolBar*>()->actions())
+    if (!a->icon().isNull()) {
+      ++boutons;
+      EXPECT_FALSE(a->icon().pixmap(20, 20).isNull()) << a->text().toStdString();
+    }
+  EXPECT_EQ(boutons, 19);
+
+  // The picture: the clouds stretched over the view, and one kite standing on the ground
+  // line at the middle, where its model file puts it.
+  const QImage image = lecteur->Vue()->grabFramebuffer().convertToFormat(QImage::Format_RGB32);
+  ASSERT_EQ(image.size(), lecteur->Vue()->size() * lecteur->Vue()->devicePixelRatio());
+  QImage nuages(QString::fromStdString(CheminDonnee("Nuages.bmp")));
+  ASSERT_FALSE(nuages.isNull());
+  nuages = nuages.scaled(image.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB32);
+  QSet<QRgb> couleurs;
+  QRect kite;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) {
+      couleurs.insert(image.pixel(x, y));
+      if (Ecart(image.pixel(x, y), nuages.pixel(x, y)) > 60) kite |= QRect(x, y, 1, 1);
+    }
+  EXPECT_GT(couleurs.size(), 200);
+  ASSERT_FALSE(kite.isEmpty());
+  EXPECT_NEAR(kite.center().x(), image.width() / 2, image.width() / 20);
+  EXPECT_GT(kite.top(), image.height() * 3 / 4);
+  EXPECT_LT(kite.width(), image.width() / 6);
+}
+
+TEST_F(LecteurTest, PlayAdvancesTheTimeAndPauseHoldsIt) {
+  lecteur->Action(CM_LECTURE)->trigger();
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Lecture avant");
+  ASSERT_TRUE(AttendQue([&] { return Temps() >= 30; }, 5000)) << Texte(TZoneLecteur::T);
+
+  lecteur->Action(CM_PAUSE)->trigger();
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Pause Lecture");
+  AttendQue([] { return false; }, 200);
+  const int arret = Temps();
+  AttendQue([] { return false; }, 300);
+  EXPECT_EQ(Temps(), arret);
+
+  lecteur->Action(CM_PLUS_RAPIDE)->trigger();
+  EXPECT_EQ(Texte(TZoneLecteur::V), "V = 1.2");
+}
+
+TEST_F(LecteurTest, FrameGrowsTallerWhenDraggedWider) {
+  const int hauteur = lecteur->height();
+  lecteur->resize(600, lecteur->height());
+  ASSERT_TRUE(AttendQue([&] { return lecteur->Vue()->width() == 600 && lecteur->Vue()->height() == 300; }, 3000))
+      << lecteur->Vue()->width() << "x" << lecteur->Vue()->height();
+  EXPECT_EQ(lecteur->height(), hauteur + 100);
+  // The scene goes on, drawn at the new size.
+  ASSERT_NE(Globals.pD3DDemo, nullptr);
+  const QSize attendue = QSize(600, 300) * lecteur->devicePixelRatio();
+  EXPECT_TRUE(AttendQue([&] {
+    const auto* image = lecteur->Vue()->Rendu().ImageCourante();
+    return image && image->size() == attendue;
+  }, 2000));
+}
+
+TEST_F(LecteurTest, ChoosingATeamRebuildsTheSceneWithItsModels) {
+  lecteur->Action(CM_TEAM3)->trigger();
+  EXPECT_TRUE(lecteur->Action(CM_TEAM3)->isChecked());
+  EXPECT_FALSE(lecteur->Action(CM_TEAM1)->isChecked());
+  EXPECT_EQ(Team, 3);
+}
+
+}  // namespace
