@@ -62,12 +62,10 @@ int Rend(const std::vector<std::string>& args) {
 
   std::string erreur;
   TServeurX serveur;
-  if (!serveur.Assure(erreur)) {
+  if (!serveur.PrepareHorsEcran(erreur)) {
     std::fprintf(stderr, "trajectoires-cli : pas d'affichage pour OpenGL : %s\n", erreur.c_str());
     return 1;
   }
-  // No window is ever shown: the offscreen platform, with GLX from the X server.
-  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
   int argc = 1;
   char nom[] = "trajectoires-cli";
   char* argv[] = {nom, nullptr};
@@ -76,7 +74,6 @@ int Rend(const std::vector<std::string>& args) {
   TSurfaceHorsEcran surface(QSize(largeur, hauteur));
   TRenduGL rendu(surface);
   SetRendu(&rendu);
-  Team = equipe;
   int code = 0;
   TFenCadre2 cadre;
   cadre.SetupWindow();
@@ -84,6 +81,10 @@ int Rend(const std::vector<std::string>& args) {
     std::fprintf(stderr, "trajectoires-cli : impossible de lire « %s »\n", positionnels[0].c_str());
     code = 1;
   } else {
+    // After the routine, whose TEAM line would otherwise choose the models; and no sound
+    // here, so no box about it either.
+    Team = equipe;
+    _FichierMusique[0] = '\0';
     TFenDessin::Demo();
     TD3DDemo* scene = Globals.pD3DDemo;
     if (!scene) {

@@ -61,3 +61,9 @@ bool TServeurX::Assure(std::string& erreur) {
   setenv("LIBGL_ALWAYS_SOFTWARE", "1", 0);
   return true;
 }
+
+bool TServeurX::PrepareHorsEcran(std::string& erreur) {
+  if (!Assure(erreur)) return false;
+  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  return true;
+}

@@ -15,6 +15,9 @@ public:
   // True when a display is usable: there was one already, or Xvfb started. `erreur` says
   // why not otherwise.
   bool Assure(std::string& erreur);
+  // The same, and Qt's offscreen platform unless another is chosen: no window is ever
+  // shown, GL comes from the X server. To be called before the QGuiApplication is made.
+  bool PrepareHorsEcran(std::string& erreur);
 
 private:
   pid_t pid_ = -1;

@@ -21,12 +21,6 @@
 
 namespace {
 
-class THorlogeTest : public THorloge {
-public:
-  std::uint32_t GetTickCount() override { return Ms; }
-  std::uint32_t Ms = 0;
-};
-
 // Builds scenes that the test can make fail at connection or at the device.
 class TRenduTest : public TRenduAbsent {
 public:

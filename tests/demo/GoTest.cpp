@@ -17,12 +17,6 @@
 
 namespace {
 
-class THorlogeTest : public THorloge {
-public:
-  std::uint32_t GetTickCount() override { return Ms; }
-  std::uint32_t Ms = 0;
-};
-
 class TSonEnregistreur : public TSon {
 public:
   int Ouvrir(const std::string& f, const std::string&) override { return Note("open " + f); }

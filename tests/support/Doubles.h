@@ -8,6 +8,7 @@
 
 #include "platform/DC.h"
 #include "platform/Dialogues.h"
+#include "platform/Horloge.h"
 
 class TDCEnregistreur : public TDC {
 public:
@@ -119,4 +120,11 @@ private:
     Textes.pop_front();
     return t;
   }
+};
+
+// A clock that moves only when the test moves it.
+class THorlogeTest : public THorloge {
+public:
+  std::uint32_t GetTickCount() override { return Ms; }
+  std::uint32_t Ms = 0;
 };

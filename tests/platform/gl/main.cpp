@@ -13,11 +13,10 @@ int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   TServeurX serveur;
   std::string erreur;
-  if (!serveur.Assure(erreur)) {
+  if (!serveur.PrepareHorsEcran(erreur)) {
     std::fprintf(stderr, "pas d'affichage : %s\n", erreur.c_str());
     return 1;
   }
-  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
   QGuiApplication application(argc, argv);
   return RUN_ALL_TESTS();
 }

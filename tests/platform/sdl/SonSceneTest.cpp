@@ -16,12 +16,6 @@
 
 namespace {
 
-class THorlogeTest : public THorloge {
-public:
-  std::uint32_t GetTickCount() override { return Ms; }
-  std::uint32_t Ms = 0;
-};
-
 class SonSceneTest : public DocumentTest {
 protected:
   void SetUp() override {
