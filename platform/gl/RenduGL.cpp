@@ -174,7 +174,8 @@ long TRenduGL::CreeDispositif(int largeur, int hauteur) {
 }
 
 void TRenduGL::LibereDispositif() {
-  if (image_ && surface_.Active()) image_.reset();
+  // Released with its context current where there is one; Qt defers the rest otherwise.
+  if (image_) surface_.Active();
   image_.reset();
   vue_ = false;
 }

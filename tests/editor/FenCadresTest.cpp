@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "demo/player/FenApp.h"
 #include "demo/player/FenCadre.h"
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
@@ -42,11 +43,17 @@ TEST_F(FenCadresTest, NoMoreThan200Sheets) {
   EXPECT_EQ(cadre.GetFeuille(199)->Num, 200);
 }
 
-TEST_F(FenCadresTest, EditorClosesOnlyOnOK) {
+TEST_F(FenCadresTest, EditorClosesOnlyOnOKAndTheSceneEndsWithIt) {
   TFenCadre2 cadre;
+  TFenCadre lecteur;
+  lecteur.Client().Paint();  // the player's first scene
+  ASSERT_NE(Globals.pD3DDemo, nullptr);
   dialogues.Reponses = {TReponse::Annuler, TReponse::OK};
   EXPECT_FALSE(cadre.CanClose());
+  EXPECT_NE(Globals.pD3DDemo, nullptr);
   EXPECT_TRUE(cadre.CanClose());
+  EXPECT_EQ(Globals.pD3DDemo, nullptr);
+  EXPECT_EQ(Globals.blDemoOK, 0);
   ASSERT_EQ(dialogues.Boites.size(), 2u);
   EXPECT_EQ(dialogues.Boites[0].Texte, "Fermeture Définitive ?");
   EXPECT_EQ(dialogues.Boites[0].Titre, "CV");
