@@ -124,6 +124,16 @@ TEST_F(LecteurTest, FrameGrowsTallerWhenDraggedWider) {
   }, 2000));
 }
 
+TEST_F(LecteurTest, MinimisedPlayerStopsDrawingAndRestoredDrawsAgain) {
+  lecteur->showMinimized();
+  ASSERT_TRUE(AttendQue([&] { return Globals.blActif == 0; }, 3000));
+  EXPECT_EQ(Globals.blDemoOK, 1);  // the scene stays
+  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() > 0; }, 2000));
+  lecteur->showNormal();
+  ASSERT_TRUE(AttendQue([&] { return Globals.blActif == 1; }, 3000));
+  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() == 0; }, 2000));
+}
+
 TEST_F(LecteurTest, ChoosingATeamRebuildsTheSceneWithItsModels) {
   lecteur->Action(CM_TEAM3)->trigger();
   EXPECT_TRUE(lecteur->Action(CM_TEAM3)->isChecked());
