@@ -3,6 +3,8 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <string>
+#include <unistd.h>
 
 #include "demo/Journal.h"
 #include "files/Lignes.h"
@@ -15,7 +17,8 @@ namespace fs = std::filesystem;
 class JournalTest : public ::testing::Test {
 protected:
   void SetUp() override {
-    dossier = fs::temp_directory_path() / "trajectoires-journal";
+    // One folder per process: the test runner starts several at once.
+    dossier = fs::temp_directory_path() / ("trajectoires-journal-" + std::to_string(getpid()));
     fs::remove_all(dossier);
     fs::create_directories(dossier / "bin");
     avant = fs::current_path();

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <unistd.h>
 
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
@@ -17,8 +18,11 @@ protected:
   void SetUp() override {
     DocumentTest::SetUp();
     avant = std::filesystem::current_path();
-    dossier = std::filesystem::temp_directory_path() /
-              ("trajectoires-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    // Named after the test and the process: the test runner starts several at once, and two
+    // suites may hold tests of the same name.
+    const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
+    dossier = std::filesystem::temp_directory_path() / ("trajectoires-" + std::string(test->test_suite_name()) + "-" +
+                                                        test->name() + "-" + std::to_string(getpid()));
     std::filesystem::remove_all(dossier);
     std::filesystem::create_directories(dossier);
     std::filesystem::current_path(dossier);

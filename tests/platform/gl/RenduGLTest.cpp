@@ -131,19 +131,17 @@ TEST_F(SceneGLTest, NewSizeRemakesTheDeviceAndKeepsTheScene) {
   EXPECT_NEAR(zone.center().x(), OuTombe(80, 50, 400, 200).x(), 6);
 }
 
-// A folder with the backdrop and the models of team 1 except those the test spoils.
+// A folder with the backdrop and the models of team 1 except those the test spoils. The
+// test runs from a folder beside the log's ../data, all inside its scratch folder.
 class DonneesPartiellesTest : public SceneGLTest {
 protected:
   void SetUp() override {
     SceneGLTest::SetUp();
-    std::filesystem::create_directories("donnees");
-    std::filesystem::create_directories("../data");  // where the log goes
+    std::filesystem::create_directories(dossier / "donnees");
+    std::filesystem::create_directories(dossier / "data");
+    std::filesystem::create_directories(dossier / "bin");
+    std::filesystem::current_path(dossier / "bin");
     SetDossierDonnees((dossier / "donnees").string());
-  }
-  void TearDown() override {
-    std::error_code e;
-    std::filesystem::remove_all(dossier.parent_path() / "data", e);
-    SceneGLTest::TearDown();
   }
   void Copie(const std::string& nom) {
     std::filesystem::copy_file(std::filesystem::path(TRAJ_DATA) / nom, dossier / "donnees" / nom);
@@ -154,7 +152,7 @@ protected:
 TEST_F(DonneesPartiellesTest, MissingOrBrokenModelShowsItsBoxAndTheKiteIsLeftOut) {
   Copie("Nuages.bmp");
   Copie("CV1_3.x");
-  Ecrit("donnees/CV1_2.x", "xof 0303txt 0032\nFrame FRAME_CV2 {");  // cut short
+  Ecrit("../donnees/CV1_2.x", "xof 0303txt 0032\nFrame FRAME_CV2 {");  // cut short
   const QImage image = Dessine({{{-80, 50, 0}, NEZ_EN_HAUT}, {{0, 50, 0}, NEZ_EN_HAUT}, {{80, 50, 0}, NEZ_EN_HAUT}});
   ASSERT_EQ(dialogues.Boites.size(), 2u);
   EXPECT_EQ(dialogues.Boites[0].Texte, "fichier CV1.x inexistant");

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <unistd.h>
 #include <thread>
 #include <vector>
 
@@ -103,7 +104,8 @@ class TBancSon {
 public:
   TBancSon()
       : Dossier(std::filesystem::temp_directory_path() /
-                ("trajectoires-son-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()))) {
+                ("trajectoires-son-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()) +
+                 "-" + std::to_string(getpid()))) {
     std::filesystem::remove_all(Dossier);
     std::filesystem::create_directories(Dossier);
     EcritRampe(Rampe(), 4.0);
