@@ -33,6 +33,7 @@ void TD3DDemo::ReinitialiseStatiques() {
 TD3DDemo::TD3DDemo(TRendu& rendu, int* pOK, int nbCV_, float tFin_, int Team_)
     : nbCV(nbCV_), tFin(tFin_), Team(Team_), Rendu(rendu) {
   *pOK = 0;
+  ReglagesParDefaut();
   for (int i = 0; i < NB_CV_MAX; ++i) TabCV[i].Trajectoire(&Trajectoires[i]);
   // Our renderer needs no steps of its own between connecting and the two first frames:
   // the numbers the log gives are those of the steps that exist.

@@ -40,11 +40,16 @@ public:
   // What Go keeps from one call to the next, across scenes; back to their start values.
   static void ReinitialiseStatiques();
 
-  float SoleilX = -0.7f;
-  float CameraX = 0, CameraY = 54.0f, CameraZ = -215.0f;
-  float DirX = 0, DirZ = 1.0f;
-  float AngleCamera = 0;
-  float DistanceCamera = 215.0f;
+  // Sun and camera back where a new scene puts them: the player's "default settings".
+  void ReglagesParDefaut() {
+    SoleilX = -0.7f;
+    CameraX = 0, CameraY = 54.0f, CameraZ = -215.0f;
+    DirX = 0, DirZ = 1.0f;
+    AngleCamera = 0;
+    DistanceCamera = 215.0f;
+  }
+
+  float SoleilX, CameraX, CameraY, CameraZ, DirX, DirZ, AngleCamera, DistanceCamera;
   int Periode = 10;  // ms of clock for 1/100 s of routine: 10 is real time
   int tDebut = 0;
   int Mode = MODE_AVANT;

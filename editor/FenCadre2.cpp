@@ -1,7 +1,6 @@
 #include "editor/FenCadre2.h"
 
 #include "demo/Demonstration.h"
-#include "demo/player/FenApp.h"
 
 #include "editor/FenDessin.h"
 #include "model/Document.h"
@@ -50,10 +49,6 @@ bool TFenCadre2::CanClose() {
   if (Dialogues().MessageBox("Fermeture Définitive ?", "CV", TBoutons::OKAnnuler, TIcone::Question) !=
       TReponse::OK)
     return false;
-  // The music and the scene end with the editor.
-  if (pFenAppDemo)
-    pFenAppDemo->FermeDemo();
-  else
-    FermeDemo();
+  FermeDemo();  // the music and the scene end with the editor
   return true;
 }

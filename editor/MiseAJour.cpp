@@ -74,15 +74,13 @@ void TFenDessin::Demo() {
     const float t = static_cast<TElt*>(TabLElt[i].Dernier())->Gett2Param();
     if (i == 0 || t < tMin) tMin = t;
   }
-  // The scene ends with the shortest kite. Through the player when there is one, so that its
-  // bars show the new scene; the command-line companion has none.
-  if (pFenAppDemo) {
-    pFenAppDemo->FermeDemo();
+  // The scene ends with the shortest kite. Made through the player when there is one, so that
+  // its bars show the new scene; the command-line companion has none.
+  FermeDemo();
+  if (pFenAppDemo)
     pFenAppDemo->InitDemo(nbCV, tMin - 1.0f);
-  } else {
-    FermeDemo();
+  else
     InitDemo(nbCV, tMin - 1.0f);
-  }
   // Walked without the lists' cursor, which the elements use themselves.
   for (int i = 0; i < nbCV; ++i)
     for (TNoeud* n = TabLElt[i].Init2(); n; n = n->GetSuivant()) static_cast<TElt*>(n)->DirectX();

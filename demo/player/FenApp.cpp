@@ -216,14 +216,7 @@ void TFenApp::Camera(TD3DDemo& s, unsigned id) {
       Plancher(s.SoleilX, -1.0f);
       break;
     case CM_REGLAGES_DEFAUT:
-      s.SoleilX = -0.7f;
-      s.DirX = 0;
-      s.DirZ = 1.0f;
-      s.CameraX = 0;
-      s.CameraY = 54.0f;
-      s.CameraZ = -215.0f;
-      s.AngleCamera = 0;
-      s.DistanceCamera = 215.0f;
+      s.ReglagesParDefaut();
       break;
     default:
       break;

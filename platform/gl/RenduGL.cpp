@@ -10,6 +10,8 @@
 #include <QOpenGLTexture>
 #include <QOpenGLVersionFunctionsFactory>
 
+#include <algorithm>
+
 namespace {
 // Flat shading: colour and normal are the face's, taken from its first vertex. Sails are
 // thin, so a face lit from behind shows the side that looks at the camera.
@@ -141,7 +143,8 @@ void TRenduGL::LibereModele(int modele) {
 void TRenduGL::LibereCadre(TIdCadre cadre) {
   if (!Existe(cadre)) return;
   const bool actif = gl_ && surface_.Active();
-  // Numbers are never given again, so a released frame cannot be mistaken for a new one.
+  // While any frame lives, numbers are never given again, so a released frame cannot be
+  // mistaken for a new one.
   for (std::size_t c = static_cast<std::size_t>(cadre); c < cadres_.size(); ++c) {
     TCadre& f = cadres_[c];
     if (!f.Vivant || !DescendDe(static_cast<TIdCadre>(c), cadre)) continue;
@@ -154,6 +157,12 @@ void TRenduGL::LibereCadre(TIdCadre cadre) {
     vue_ = false;
   }
   if (!Existe(soleil_)) soleil_ = CADRE_AUCUN;
+  // A scene releases its whole world when it ends: the next one starts from empty tables,
+  // so that a picture never walks the frames of all the scenes made before it.
+  if (std::none_of(cadres_.begin(), cadres_.end(), [](const TCadre& f) { return f.Vivant; })) {
+    cadres_.clear();
+    modeles_.clear();
+  }
 }
 
 TSize TRenduGL::TailleClient() {
