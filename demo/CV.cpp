@@ -9,11 +9,13 @@
 
 namespace {
 
-constexpr float PI = 3.14159265358979f;
+// Headings go through the C library in double: with a float pi, sin(180) comes out below
+// zero and a kite pointing straight down would read as -179.
+constexpr double PI = 3.14159265358979323846;
 constexpr float TOUR = 6.2831855f;
 const TOrientation ATTITUDE_N{{0, 0, 1}, {0, 1, 0}};
 
-float Radians(float degres) { return degres * PI / 180.0f; }
+double Radians(double degres) { return degres * PI / 180.0; }
 
 // A report on the status line. An element inside a figure has a negative number: the texts
 // that have a figure variant show it made positive, the others as it is.
@@ -95,7 +97,7 @@ void CV::Segment(int Num, float t, float x, float y, float DureeVirage) {
 }
 
 void CV::Rotation(float t, float Angle) {
-  const float a = static_cast<float>(AngleModulo2Pi(std::atan2(xY, yY) * 180.0f / PI));
+  const float a = static_cast<float>(AngleModulo2Pi(std::atan2(double{xY}, double{yY}) * 180.0 / PI));
   if (std::fabs(Angle - a) < 3.0f) return;
   const float vitesse = (Angle - a) / (t - T);
   const float s = Angle > a ? 1.0f : -1.0f;
@@ -118,7 +120,9 @@ void CV::SegRevo(int Num, float t, float x, float y, float Angle) {
 void CV::Rot(int Num, float t, float Angle) {
   if (!TesteTemps(Num, t, "Fonction Rotation N°%d : durée  <= 0!!!", "Fonction Rotation de la Figureb N°%d : durée  <= 0!!!")) return;
   Rotation(t, Angle);
-  SetOrientation({{0, 0, 1}, {std::sin(Radians(Angle)), std::cos(Radians(Angle)), 0}});
+  xY = std::sin(Radians(Angle));
+  yY = std::cos(Radians(Angle));
+  SetOrientation({{0, 0, 1}, {xY, yY, 0}});
   ClePosition(t);
   CleOrientation(t);
   T = t;

@@ -124,7 +124,9 @@ void TElt::Copie2(TElt* c, bool Lien) {
 }
 
 void TElt::Transforme(TPointf Origine, TPointf Destination, int Mode) {
-  const TPointf p = Getp2();
+  // The stored point, never a derived one: in a loop over a range or a figure the element
+  // before has already moved, and deriving from it would apply the move a second time.
+  const TPointf p = Getp2Param();
   const float dx = p.x - Origine.x;
   const float dy = p.y - Origine.y;
   switch (Mode) {

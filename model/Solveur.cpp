@@ -125,7 +125,11 @@ void TElt::GetDistanceDuree(int* Distance, int* Duree) {
       C += e->GetDureeConstante();
     }
   }
-  *Duree = (tPrecedent == -1 || tSuivant == -1) ? -1 : Tronque(static_cast<float>(tSuivant - tPrecedent) - C);
+  // In 64 bits: times read from a damaged file truncate to the ends of int, whose
+  // difference does not fit in one.
+  *Duree = (tPrecedent == -1 || tSuivant == -1)
+               ? -1
+               : Tronque(static_cast<float>(static_cast<long long>(tSuivant) - tPrecedent) - C);
   *Distance = Tronque(L);
 }
 
