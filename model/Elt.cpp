@@ -3,7 +3,6 @@
 #include <cmath>
 #include <cstdio>
 
-#include "demo/D3DDemo.h"
 #include "editor/FenDessin.h"
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -85,8 +84,6 @@ void TElt::Supprime() {
   CloseBD();
   pListeCV->Supprime(this);
 }
-
-CV* TElt::GetCV() const { return pListeCV ? CVDeLaScene(pListeCV->Num) : nullptr; }
 
 TColor TElt::GetCouleur() const { return pListeCV ? pListeCV->Couleur : TColor::Black; }
 

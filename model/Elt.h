@@ -2,7 +2,8 @@
 // One stretch of a kite's flight: the base of every element class.
 //
 // An element stores its end point and end time; its start is the end of the element before
-// it in the track. Its time operations are in Solveur.cpp; drawing and the property bars'
+// it in the track. Its time operations are in Solveur.cpp; the hand-over to the flight
+// generator is in demo/vol/, one file per class family; drawing and the property bars'
 // operations join the class with the editor's views.
 #include <string>
 

@@ -1,5 +1,4 @@
 #include "model/elements/AllerA.h"
-#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -65,8 +64,4 @@ void TAllerA::Enregistrer(std::string& Fichier, int decalageFeuille, float decal
   // The duration, then the two axes of the kite at the target and its height.
   for (float v : {DureeConstante, xZ, yZ, zZ, xY, yY, zY, z}) Fichier += '\t' + Gcvt(v, 6);
   Enregistrer2(Fichier);
-}
-
-void TAllerA::DirectX() {
-  if (CV* cv = GetCV()) cv->Va(Num, Gett2Param(), x.GetParam(), y.GetParam(), z, xZ, yZ, zZ, xY, yY, zY);
 }

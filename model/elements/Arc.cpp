@@ -1,5 +1,4 @@
 #include "model/elements/Arc.h"
-#include "demo/CV.h"
 
 #include <cmath>
 
@@ -246,13 +245,4 @@ void TArcRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float deca
   EnregistrerDebut(Fichier, "ARCREVO ", decalageFeuille, decalageTemps);
   Fichier += Gcvt(Rayon, 6) + '\t' + Gcvt(Angle, 6) + '\t' + Gcvt(AngleRevo, 6);
   Enregistrer2(Fichier);
-}
-
-void TArc::DirectX() {
-  if (CV* cv = GetCV()) cv->Arc(Num, Gett2Param(), Centre.x, Centre.y, x.GetParam(), y.GetParam(), Sens);
-}
-
-void TArcRevo::DirectX() {
-  if (CV* cv = GetCV())
-    cv->ArcRevo(Num, Gett2Param(), Centre.x, Centre.y, x.GetParam(), y.GetParam(), Sens, AngleRevo);
 }

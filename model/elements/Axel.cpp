@@ -1,5 +1,4 @@
 #include "model/elements/Axel.h"
-#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -26,23 +25,4 @@ void TManoeuvreCote::Enregistrer(std::string& Fichier, int decalageFeuille, floa
   EnregistrerDebut(Fichier, NomEnregistrement(), decalageFeuille, decalageTemps);
   Fichier += (Gauche ? "\t\t1\t\t" : "\t\t0\t\t") + Gcvt(DureeConstante, 6);
   Enregistrer2(Fichier);
-}
-
-// The manoeuvres on the spot read their own stored time, not a father's.
-void TAxel::DirectX() {
-  CV* cv = GetCV();
-  if (!cv) return;
-  if (Gauche)
-    cv->AxelG(Num, t2.GetParam(), DureeConstante);
-  else
-    cv->AxelD(Num, t2.GetParam(), DureeConstante);
-}
-
-void T540::DirectX() {
-  CV* cv = GetCV();
-  if (!cv) return;
-  if (Gauche)
-    cv->Flat540G(Num, t2.GetParam());
-  else
-    cv->Flat540D(Num, t2.GetParam());
 }

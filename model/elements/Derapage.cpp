@@ -1,5 +1,4 @@
 #include "model/elements/Derapage.h"
-#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 
@@ -21,8 +20,4 @@ TElt* TDerapage::Copie(TListeCV* l, bool Lien) { return CopieDe<TDerapage>(l, Li
 void TDerapage::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "DERAPAGE", decalageFeuille, decalageTemps);
   Enregistrer2(Fichier);
-}
-
-void TDerapage::DirectX() {
-  if (CV* cv = GetCV()) cv->Derapage(Num, Gett2Param(), x.GetParam(), y.GetParam());
 }

@@ -1,5 +1,4 @@
 #include "model/elements/Pose.h"
-#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -60,16 +59,4 @@ void TPose::Enregistrer(std::string& Fichier, int decalageFeuille, float decalag
   EnregistrerDebut(Fichier, "POSE   ", decalageFeuille, decalageTemps);
   Fichier += "\t\t" + Gcvt(DureeConstante, 6) + "\t\t" + std::to_string(TypePose);
   Enregistrer2(Fichier);
-}
-
-void TPose::DirectX() {
-  CV* cv = GetCV();
-  if (!cv) return;
-  // Touch-down comes the stay on the ground before the end.
-  const float t = t2.GetParam();
-  switch (TypePose) {
-    case POSE_POINTE_GAUCHE: cv->PoseGauche(Num, t - DureeConstante, t); break;
-    case POSE_POINTE_DROITE: cv->PoseDroite(Num, t - DureeConstante, t); break;
-    default: cv->Pose2(Num, t - DureeConstante, t); break;
-  }
 }

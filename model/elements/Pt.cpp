@@ -1,5 +1,4 @@
 #include "model/elements/Pt.h"
-#include "demo/CV.h"
 
 TPt::TPt(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
     : TElt(p, fen, fenListe, liste) {
@@ -19,8 +18,4 @@ TElt* TPt::Copie(TListeCV* l, bool Lien) { return CopieDe<TPt>(l, Lien); }
 void TPt::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "POINT   ", decalageFeuille, decalageTemps);
   Enregistrer2(Fichier);
-}
-
-void TPt::DirectX() {
-  if (CV* cv = GetCV()) cv->Point(Num, Gett2Param(), x.GetParam(), y.GetParam());
 }

@@ -1,5 +1,4 @@
 #include "model/elements/Rot.h"
-#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -29,8 +28,4 @@ void TRot::Enregistrer(std::string& Fichier, int decalageFeuille, float decalage
   EnregistrerDebut(Fichier, "ROT   ", decalageFeuille, decalageTemps);
   Fichier += "\t\t" + Gcvt(DureeConstante, 6) + '\t' + Gcvt(Angle, 6);
   Enregistrer2(Fichier);
-}
-
-void TRot::DirectX() {
-  if (CV* cv = GetCV()) cv->Rot(Num, t2.GetParam(), Angle);
 }

@@ -1,5 +1,4 @@
 #include "model/elements/Segment.h"
-#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -47,13 +46,4 @@ void TSegRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float deca
   EnregistrerDebut(Fichier, "SEGREVO ", decalageFeuille, decalageTemps);
   Fichier += '\t' + Gcvt(Angle, 6);
   Enregistrer2(Fichier);
-}
-
-void TSegment::DirectX() {
-  // A kite swings round to a new heading in a tenth of a second.
-  if (CV* cv = GetCV()) cv->Segment(Num, Gett2Param(), x.GetParam(), y.GetParam(), 10.0f);
-}
-
-void TSegRevo::DirectX() {
-  if (CV* cv = GetCV()) cv->SegRevo(Num, Gett2Param(), x.GetParam(), y.GetParam(), Angle);
 }

@@ -1,5 +1,4 @@
 #include "model/elements/Stop.h"
-#include "demo/CV.h"
 
 #include "editor/bars/BD.h"
 #include "model/Nombres.h"
@@ -25,8 +24,4 @@ void TStop::Enregistrer(std::string& Fichier, int decalageFeuille, float decalag
   EnregistrerDebut(Fichier, "STOP   ", decalageFeuille, decalageTemps);
   Fichier += "\t\t" + Gcvt(DureeConstante, 6);
   Enregistrer2(Fichier);
-}
-
-void TStop::DirectX() {
-  if (CV* cv = GetCV()) cv->Stop(Num, t2.GetParam());
 }
