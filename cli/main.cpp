@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "Commandes.h"
+#include "SonFichier.h"
 
 namespace {
 void Aide(std::FILE* sortie) {
@@ -32,7 +33,13 @@ int main(int argc, char** argv) {
     return 0;
   }
   for (const TCommande& c : Commandes())
-    if (c.Nom == args[0]) return c.Executer(std::vector<std::string>(args.begin() + 1, args.end()));
+    if (c.Nom == args[0]) {
+      TSonFichier son;
+      SetSon(&son);
+      const int code = c.Executer(std::vector<std::string>(args.begin() + 1, args.end()));
+      SetSon(nullptr);
+      return code;
+    }
   std::fprintf(stderr, "trajectoires-cli : commande inconnue « %s » (voir --help)\n", args[0].c_str());
   return 2;
 }
