@@ -11,16 +11,9 @@
 #include <cstdlib>
 #include <cstring>
 
-TApp::TApp() {
-  // A 0 ms timer fires each time the event queue is empty, which is what drawing the scene
-  // needs. With no scene it would keep a core busy for nothing, so it then polls slowly;
-  // IdleAction switches between the two.
-  idle_.setInterval(IDLE_SANS_SCENE_MS);
-  connect(&idle_, &QTimer::timeout, this, [this] { IdleAction(); });
-}
+TApp::TApp() = default;
 
 TApp::~TApp() {
-  idle_.stop();
   // The scene and its music go before the player's view, whose context holds the pictures.
   if (lecteur_) lecteur_->Cadre().Client().FermeDemo();
   SetRendu(nullptr);
@@ -40,15 +33,6 @@ void TApp::Demarre() {
   SetRendu(&lecteur_->Vue()->Rendu());
   editeur_->show();
   lecteur_->show();
-  idle_.start();
-}
-
-bool TApp::IdleAction() {
-  // Time comes from the clock inside Go, so the frame rate does not change the speed.
-  const bool scene = lecteur_ && lecteur_->Cadre().Client().IdleAction();
-  const int intervalle = scene ? 0 : IDLE_SANS_SCENE_MS;
-  if (idle_.interval() != intervalle) idle_.setInterval(intervalle);
-  return scene;
 }
 
 bool AffichageDisponible(int argc, char** argv) {

@@ -1,5 +1,6 @@
 #include "demo/D3DDemo.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -223,4 +224,21 @@ void TD3DDemo::Go() {
   PlaceCamera();
   if (long res = Rendu.Dessine(Monde)) return DXERROR_Direct3DRM(FichierJournal(), 2, res);
   if (long res = Rendu.Affiche()) return DXERROR_Direct3DRM(FichierJournal(), 5, res);
+}
+
+bool TD3DDemo::EnMouvement() const {
+  if (_Debut) return true;
+  switch (Mode) {
+    case MODE_PAS_AVANT:
+    case MODE_PAS_ARRIERE:
+      return true;
+    // Go holds forward play at the last whole hundredth before tFin, and backward play at
+    // tDebut or at 0, whichever comes first.
+    case MODE_AVANT:
+      return static_cast<float>(tCourant) < std::floor(tFin - 1.0f);
+    case MODE_ARRIERE:
+      return static_cast<int>(tCourant) > std::max(tDebut, 0);
+    default:  // paused, held at the start or after a step
+      return false;
+  }
 }

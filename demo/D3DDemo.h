@@ -1,7 +1,7 @@
 #pragma once
 // The demonstration scene: the world of one demonstration (camera, sun, backdrop, one model
 // per kite), each kite's flight generator and key tracks, and the playback clock. The
-// player makes one at each start of a demonstration; the idle loop calls Go over and over.
+// player makes one at each start of a demonstration, and calls Go for each frame it draws.
 #include <string>
 
 #include "demo/CV.h"
@@ -36,6 +36,9 @@ public:
   bool ChargerFrameCV(int i, TIdCadre* pCadre, int Team);
   // One step of playback: the clock, the music's orders, the kites, sun and camera, a frame.
   void Go();
+  // Whether the next Go would show another picture than the last one, with nothing but the
+  // clock changed: playing away from the end it holds at, a step not yet taken, a restart.
+  bool EnMouvement() const;
 
   // What Go keeps from one call to the next, across scenes; back to their start values.
   static void ReinitialiseStatiques();

@@ -74,6 +74,7 @@ void TFenApp::InitDemo(int nbCV_, float tFin) {
   AfficheEtat(*s);
   s->tDebut = tDebut;
   Texte(TZoneLecteur::Debut, std::to_string(tDebut));
+  Redessine();
 }
 
 void TFenApp::FermeDemo() { ::FermeDemo(); }
@@ -89,12 +90,26 @@ bool TFenApp::Paint() {
 bool TFenApp::IdleAction() {
   if (Globals.blActif != 1 || Globals.blDemoOK != 1 || !Globals.pD3DDemo) return false;
   Globals.pD3DDemo->Go();
+  aRedessiner = false;
   Texte(TZoneLecteur::T, "T = " + std::to_string(static_cast<int>(Globals.pD3DDemo->tCourant)));
   return true;
 }
 
+bool TFenApp::ImageAttendue() const {
+  if (Globals.blActif != 1 || Globals.blDemoOK != 1 || !Globals.pD3DDemo) return false;
+  return aRedessiner || Globals.pD3DDemo->EnMouvement();
+}
+
+void TFenApp::Redessine() {
+  aRedessiner = true;
+  if (pFenCadre) pFenCadre->DemandeImage();
+}
+
 void TFenApp::Trt_Menu(unsigned id) {
   if (!TexteCommande(id)) return;
+  // Whatever the command does, the picture follows at the next idle step, which the view
+  // runs only after this returns.
+  Redessine();
   if (id >= CM_TEAM1 && id <= CM_TEAM5) {
     ChoisitTeam(static_cast<int>(id - CM_TEAM1) + 1);
     return;

@@ -1,7 +1,8 @@
 #pragma once
 // The player: the client of the frame TFenCadre. It makes and destroys the scene with its
-// music, plays it at each idle moment, and carries the transport, speed, camera, sun, team
-// and start-instant commands, which write the scene's fields for the next Go.
+// music, plays it at each frame its view draws, says when a frame is wanted, and carries the
+// transport, speed, camera, sun, team and start-instant commands, which write the scene's
+// fields for the next Go.
 #include <string>
 
 #include "demo/player/FenCadre.h"
@@ -29,6 +30,12 @@ public:
   // The idle step: one Go and the time shown, while a usable scene may be drawn. True when
   // it played.
   bool IdleAction();
+  // Whether an idle step now would show something new: the scene is moving, or something it
+  // shows changed since the last step. The view draws only then.
+  bool ImageAttendue() const;
+  // Something the picture shows has changed (a command, a resize, a new scene): the next idle
+  // step is wanted, and the view is told.
+  void Redessine();
 
   // Back to their start values, with the document's.
   static void ReinitialiseStatiques();
@@ -47,4 +54,6 @@ private:
   void Camera(TD3DDemo& scene, unsigned id);
   void ChoisitTeam(int team);
   void SaisitDebut();
+
+  bool aRedessiner = true;
 };

@@ -40,5 +40,7 @@ int TFenCadre::EvSize(TTypeTaille type, int hauteurCadre, int largeurClient, int
       Globals.blActif = 1;
     }
   }
+  // A new device, or drawing resumed: the picture must be made again.
+  pClient->Redessine();
   return hauteurCadre - hauteurClient + largeurClient / 2;
 }

@@ -21,6 +21,9 @@ public:
   virtual void TexteChange(TZoneLecteur zone, const std::string& texte) = 0;
   // The team item checked in "&Options"; the four others are unchecked.
   virtual void EquipeCochee(int team) = 0;
+  // The player wants an idle step (TFenApp::ImageAttendue has become true); a view that
+  // draws nothing has nothing to do.
+  virtual void ImageDemandee() {}
 };
 
 class TFenCadre {
@@ -39,6 +42,10 @@ public:
   const std::string& GetTexte(TZoneLecteur zone) const { return Textes[static_cast<int>(zone)]; }
   void CocheEquipe(int team);
   int GetEquipeCochee() const { return EquipeCochee; }
+  // Tells the view that the player wants an idle step.
+  void DemandeImage() {
+    if (pVue) pVue->ImageDemandee();
+  }
 
   bool CanClose();
   // After a resize: the scene stops drawing while minimised or hidden, else gets a device at

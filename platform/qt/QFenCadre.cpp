@@ -40,6 +40,8 @@ QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   CreeBarreStatut();
   new TPlacementCadre(this, QRect(X_LECTEUR, Y_LECTEUR, LARGEUR_LECTEUR, HAUTEUR_LECTEUR));
 
+  cadence_ = new QCadence(this, [this] { return cadre_.Client().ImageAttendue(); },
+                          [this] { return cadre_.Client().IdleAction(); });
   cadre_.SetVue(this);
   for (int z = 0; z < NB_ZONES_LECTEUR; ++z)
     TexteChange(static_cast<TZoneLecteur>(z), cadre_.GetTexte(static_cast<TZoneLecteur>(z)));

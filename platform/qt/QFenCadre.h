@@ -1,8 +1,10 @@
 #pragma once
 // The player's main window, "CV": a view over TFenCadre. The menu and the control bar are
 // built from the player's command tables; every command goes to TFenApp::Trt_Menu; the bars
-// show the texts the frame holds; the client area is the 3D view.
+// show the texts the frame holds; the client area is the 3D view, drawn when the player wants
+// a frame, at most once per refresh of the screen.
 #include "demo/player/FenCadre.h"
+#include "platform/qt/Cadence.h"
 #include "platform/qt/QVue3D.h"
 
 #include <QMainWindow>
@@ -20,12 +22,14 @@ public:
 
   TFenCadre& Cadre() { return cadre_; }
   QVue3D* Vue() const { return vue_; }
+  const QCadence& Cadence() const { return *cadence_; }
   // The action of a command, for tests and for the keyboard.
   QAction* Action(unsigned id) const;
   QLabel* Zone(TZoneLecteur zone) const { return zones_[static_cast<int>(zone)]; }
 
   void TexteChange(TZoneLecteur zone, const std::string& texte) override;
   void EquipeCochee(int team) override;
+  void ImageDemandee() override { cadence_->Demande(); }
 
 protected:
   void closeEvent(QCloseEvent* evenement) override;
@@ -42,6 +46,7 @@ private:
 
   TFenCadre cadre_;
   QVue3D* vue_ = nullptr;
+  QCadence* cadence_ = nullptr;
   std::map<unsigned, QAction*> actions_;
   QLabel* zones_[NB_ZONES_LECTEUR] = {};
 };

@@ -1,7 +1,8 @@
 #pragma once
 // The player's client area: an OpenGL widget that lends its context to the scene's renderer
-// and shows each picture the renderer finishes. The scene draws from the idle loop, not from
-// paintGL; paintGL only copies the last picture, so a repaint never advances the clock.
+// and shows each picture the renderer finishes. The scene draws when the player's cadence
+// says, not from paintGL; paintGL only copies the last picture, so a repaint never advances
+// the clock.
 #include "platform/gl/RenduGL.h"
 #include "platform/gl/SurfaceGL.h"
 

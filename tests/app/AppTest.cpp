@@ -2,13 +2,16 @@
 
 #include "Attente.h"
 #include "demo/Demonstration.h"
+#include "demo/player/Commandes.h"
 #include "demo/player/FenApp.h"
 #include "support/Doubles.h"
 #include "app/App.h"
 #include "editor/FenDessin.h"
 #include "model/Document.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QStatusBar>
 #include <QTimer>
@@ -130,15 +133,26 @@ TEST_F(AppTest, StatusMessagesOfTheSheetsReachTheEditorsStatusBar) {
   EXPECT_TRUE(app->Lecteur()->statusBar()->currentMessage().isEmpty());
 }
 
-TEST_F(AppTest, IdleSpinsOnlyWhileASceneIsPlayed) {
-  // The first paint of the player makes its one-kite scene; from then on the idle timer
-  // plays it and shows its time.
-  ASSERT_TRUE(AttendQue([&] { return Globals.blDemoOK == 1; }, 5000));
-  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() == 0; }, 2000));
-  QLabel* t = app->Lecteur()->Zone(TZoneLecteur::T);
-  EXPECT_TRUE(AttendQue([&] { return t->text() == QStringLiteral("T = 0"); }, 2000)) << t->text().toStdString();
-  app->Lecteur()->Cadre().Client().FermeDemo();
-  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() > 0; }, 2000));
+TEST_F(AppTest, PausedPlayerDrawsOnlyWhenSomethingChanges) {
+  // The first paint of the player makes its paused one-kite scene, and a frame shows it.
+  QFenCadre* lecteur = app->Lecteur();
+  QLabel* t = lecteur->Zone(TZoneLecteur::T);
+  ASSERT_TRUE(AttendQue([&] { return Globals.blDemoOK == 1 && t->text() == QStringLiteral("T = 0"); }))
+      << t->text().toStdString();
+  // Once the start's resizes are over, nothing moves: no frame for half a second.
+  long long vues = -1;
+  QElapsedTimer depuis;
+  const bool calme = AttendQue([&] {
+    if (lecteur->Cadence().Images() != vues) {
+      vues = lecteur->Cadence().Images();
+      depuis.start();
+    }
+    return depuis.elapsed() >= 500;
+  });
+  ASSERT_TRUE(calme) << "paused with nothing changing, the player kept drawing";
+  lecteur->Action(CM_ROTATION_GAUCHE)->trigger();
+  EXPECT_TRUE(AttendQue([&] { return lecteur->Cadence().Images() > vues; }, 2000))
+      << "a command drew no frame";
 }
 
 TEST(AffichageDisponible, NeedsANonEmptyDisplayVariableOrAChosenPlatform) {

@@ -128,10 +128,12 @@ TEST_F(LecteurTest, MinimisedPlayerStopsDrawingAndRestoredDrawsAgain) {
   lecteur->showMinimized();
   ASSERT_TRUE(AttendQue([&] { return Globals.blActif == 0; }, 3000));
   EXPECT_EQ(Globals.blDemoOK, 1);  // the scene stays
-  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() > 0; }, 2000));
+  lecteur->Action(CM_LECTURE)->trigger();
+  EXPECT_FALSE(lecteur->Cadre().Client().ImageAttendue()) << "playing, minimised";
+  const long long images = lecteur->Cadence().Images();
   lecteur->showNormal();
   ASSERT_TRUE(AttendQue([&] { return Globals.blActif == 1; }, 3000));
-  EXPECT_TRUE(AttendQue([&] { return app->IntervalleIdle() == 0; }, 2000));
+  EXPECT_TRUE(AttendQue([&] { return lecteur->Cadence().Images() > images; }, 2000));
 }
 
 TEST_F(LecteurTest, ChoosingATeamRebuildsTheSceneWithItsModels) {
