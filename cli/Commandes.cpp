@@ -95,6 +95,7 @@ int Echantillon(const std::vector<std::string>& args) {
 
 }  // namespace
 
+int Peins(const std::vector<std::string>& args);  // cli/Peinture.cpp
 #ifdef TRAJ_AVEC_RENDU
 int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
 #endif
@@ -107,6 +108,10 @@ const std::vector<TCommande>& Commandes() {
        [](const std::vector<std::string>& a) { return Reenregistre(a, true); }},
       {"keys", "IN", "relit IN, construit le vol comme la démo, écrit chaque clé posée puis END tFin", Cles},
       {"sample", "IN T", "le même vol, puis la pose de chaque cerf-volant au temps T", Echantillon},
+      {"paint", "IN SHEET OUT.log",
+       "relit IN, peint la feuille SHEET comme l'écran, une ligne par tracé (--width W, défaut 880 ; "
+       "--current K:I ; --range K:I:J)",
+       Peins},
 #ifdef TRAJ_AVEC_RENDU
       {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1)",
        Rend},

@@ -25,11 +25,19 @@ public:
   // The client area of the window, in device pixels, as the view last laid it out.
   void SetTailleClient(int largeur, int hauteur) { TailleClient = TSize{largeur, hauteur}; }
 
-  // Puts dc into the logical mode of the wind window and refreshes the scales and origin.
+  // Puts dc into the logical mode of the wind window and refreshes the scales, the origin
+  // and EchIE: for the client area on the screen, for this sheet's place on the page while
+  // a print runs.
   void SetEchelle(TDC& dc);
   TPoint LPtoDP(const TPointf& p) const;
   // Always whole logical units; (0, 0) while the window has no size.
   TPointf DPtoLP(const TPoint& p) const;
+  // The sheet's background: the wind window, its dotted quarters, labels and grid as wide
+  // as the window allows. dc must be in logical mode.
+  void DessinAxes(TDC& dc);
+  // The whole sheet: background, every kite's elements on it, then the current element and
+  // the selection on top. The flag and the rectangle are not used: the platform clips.
+  void Paint(TDC& dc, bool effacer, const TRect& rect);
 
   // Reports a user's error on the status line as "!!!! texte", with one beep. The text is
   // cut to 160 characters in the caller's buffer. The status line is the editor's, whichever

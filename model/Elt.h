@@ -3,8 +3,8 @@
 //
 // An element stores its end point and end time; its start is the end of the element before
 // it in the track. Its time operations are in Solveur.cpp; the hand-over to the flight
-// generator is in demo/vol/, one file per class family; drawing and the property bars'
-// operations join the class with the editor's views.
+// generator is in demo/vol/ and the drawing on a sheet in editor/peinture/, one file per
+// class family; the property bars' operations join the class with the editor's views.
 #include <string>
 
 #include "model/ListeCV.h"
@@ -47,6 +47,16 @@ public:
   TElt* GetEltPrecedent() const { return static_cast<TElt*>(GetPrecedent()); }
   TElt* GetEltSuivant() const { return static_cast<TElt*>(GetSuivant()); }
 
+  // Draws the element if it lies on sheet Feuille; Selection gives it the look of the
+  // selected range. The surface is in logical mode on entry and, but for an arc that could
+  // not be calculated, on return.
+  virtual void Paint(TDC& dc, int Feuille, bool Selection) = 0;
+  // The cross where the track arrives from another sheet, the square where it leaves.
+  virtual void PaintChangeFeuille(TDC& dc);
+  // The handle of the end point p, which the mouse takes to move it.
+  virtual void PaintPoignee(TDC& dc, const TPointf& p);
+  // The numbers of the synchronisation the element belongs to.
+  virtual void PaintSynchro(TDC& dc);
   virtual void Translate(int dx, int dy, bool AvecDebut) = 0;
   virtual void Setpp2(const TPointf& p);
   virtual void Setp2Poignee(const TPointf& p) { Setpp2(p); }
@@ -67,6 +77,15 @@ public:
   virtual void SetpFen(TFenDessin* fen) { pFen = fen; }
   virtual bool Clicp2(TDC& dc, int Feuille, const TPoint& p);
   virtual bool Clic(TDC& dc, int Feuille, const TPoint& p) = 0;
+  // The device rectangle to repaint for the element, a few pixels larger than its drawing.
+  virtual TRect GetRectEcran(TDC& dc) = 0;
+  // Asks for a repaint of the element and, by sens (0 the previous side, 1 the next, 2
+  // both), of the neighbours whose picture depends on it.
+  virtual void Invalid(TDC& dc, bool etendu, int sens);
+  // Asks for a repaint of the numbers of the element's synchronisation, which change colour
+  // with the current element.
+  virtual void InvalidSynchro(TDC& dc);
+  // A change of the previous element changes this one's picture.
   virtual bool IsAInvalider() const { return false; }
   virtual int MoveBD(int y);
   virtual void CloseBD();
@@ -116,6 +135,11 @@ public:
   unsigned PassageMiseAJourV = 0;
 
 protected:
+  // How Invalid passes on to the neighbours: Base, the rule of TElt; the others by sens
+  // alone, with etendu true (Etendue) or false (Restreinte).
+  enum class TPropagation { Base, Etendue, Restreinte };
+  virtual TPropagation PropagationInvalid() const { return TPropagation::Base; }
+
   // The flight generator of this element's kite, or null with no scene.
   CV* GetCV() const;
 

@@ -10,6 +10,8 @@ public:
 
   void Set(int, int contrainte, float t, float duree, float xZ_, float yZ_, float zZ_, float xY_, float yY_,
            float zY_, float z_);
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   void SetV(float) override {}
   float GetDureeConstante() const override { return DureeConstante; }
   float CalculLongueur() override { return 0; }

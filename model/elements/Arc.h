@@ -39,6 +39,8 @@ public:
   virtual int CalculRayon();
 
   void Setp2Poignee(const TPointf& p) override;
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   TPointf Getp2() override;
   void Translate(int dx, int dy, bool AvecDebut) override;
   TVect GetVDir() override;
@@ -61,6 +63,7 @@ public:
 
 protected:
   bool DelegueVDir() override { return SansLongueur(); }
+  TPropagation PropagationInvalid() const override { return TPropagation::Restreinte; }
   // The end and the direction of the previous element; false in a track that has lost it.
   bool Depart(TPointf& p1, TVect& v) const;
   void MajRectCercle(const TPointf& p);
@@ -77,6 +80,7 @@ public:
   virtual void Set(int, int contrainte, float t, float v, float rayon, float angle, float angleRevo);
 
   int GetAngle() override;
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
   TElt* Copie(TListeCV* l, bool Lien) override;
   void DirectX() override;
   void Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) override;

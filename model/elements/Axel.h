@@ -7,6 +7,7 @@ public:
   TManoeuvreCote(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
 
   void Set(int, int contrainte, float t, bool gauche, float duree);
+  TRect GetRectEcran(TDC& dc) override;
   // The flight goes on level, to the side the manoeuvre turned to.
   TVect GetVDir() override { return Gauche ? TVect(-1, 0) : TVect(1, 0); }
   bool IsCalculV() const override { return true; }
@@ -32,6 +33,7 @@ public:
   TAxel(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste) : TManoeuvreCote(p, fen, fenListe, liste) {}
   TAxel(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool) : TAxel(p, fen, fenListe, liste) {}
   TElt* Copie(TListeCV* l, bool Lien) override { return CopieCote<TAxel>(l, Lien); }
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
   void DirectX() override;
 
 protected:
@@ -43,6 +45,7 @@ public:
   T540(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste) : TManoeuvreCote(p, fen, fenListe, liste) {}
   T540(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool) : T540(p, fen, fenListe, liste) {}
   TElt* Copie(TListeCV* l, bool Lien) override { return CopieCote<T540>(l, Lien); }
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
   void DirectX() override;
 
 protected:

@@ -9,6 +9,8 @@ public:
 
   void Set(int, int contrainte, float t, float v);
 
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   void Translate(int dx, int dy, bool AvecDebut) override { TranslateDroit(dx, dy, AvecDebut); }
   TVect GetVDir() override { return GetVDirDroite(); }
   bool Clic(TDC&, int Feuille, const TPoint& p) override { return ClicDroit(Feuille, p); }

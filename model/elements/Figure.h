@@ -20,6 +20,8 @@ public:
   // origin, so that the inner points are never read again from the file.
   void ChangeTransformation();
 
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   TPointf Getp2() override;
   void SetV(float) override {}
   TVect GetVDir() override;
@@ -43,6 +45,9 @@ public:
   float dx = 0;
   float dy = 0;
   int Transformation = TRANSFORMATION_PARALLELE;
+
+protected:
+  TPropagation PropagationInvalid() const override { return TPropagation::Restreinte; }
 
 private:
   // For copies: no file is read, Copie fills the rest.

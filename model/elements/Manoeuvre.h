@@ -16,6 +16,8 @@ public:
   float GetDureeConstante() const override { return DureeConstante; }
 
 protected:
+  // A chain of manoeuvres on one spot is repainted as far as an element with a length.
+  TPropagation PropagationInvalid() const override { return TPropagation::Etendue; }
   // The end point that the element before it gives.
   virtual TPointf PointDuPrecedent() const;
   bool RelaiePoint(TPointf& p) override;

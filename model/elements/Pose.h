@@ -17,6 +17,8 @@ public:
   TPose(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
 
   void Set(int, int contrainte, float t, float duree, int typePose);
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   void SetV(float v) override { TElt::SetV(v); }  // the way down is flown at a speed
   TVect GetVDir() override { return TVect(0, 1); }  // a take-off after it starts straight up
   bool Clic(TDC&, int Feuille, const TPoint& p) override { return ClicDroit(Feuille, p); }

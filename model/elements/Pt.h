@@ -9,6 +9,8 @@ public:
 
   void Set(int, int contrainte, float t);
 
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   void Translate(int, int, bool) override {}
   TVect GetVDir() override { return TVect(0, 1); }  // a kite starts straight up
   // A start point is caught by its end point only.

@@ -8,6 +8,8 @@ public:
   TRot(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angle, bool);
 
   void Set(int, int contrainte, float t, float duree, float angle);
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   // The kite turns in place: the flight goes on as before.
   TVect GetVDir() override { return DirectionPrecedente(); }
   int GetAngle() override;

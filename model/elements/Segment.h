@@ -9,6 +9,8 @@ public:
 
   virtual void Set(int, int contrainte, float t, float v);
 
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   void Translate(int dx, int dy, bool AvecDebut) override { TranslateDroit(dx, dy, AvecDebut); }
   TVect GetVDir() override { return GetVDirDroite(); }
   bool Clic(TDC&, int Feuille, const TPoint& p) override { return ClicDroit(Feuille, p); }
@@ -30,6 +32,7 @@ public:
   void Set(int n, int contrainte, float t, float v) override;
   virtual void Set(int, int contrainte, float t, float v, float angle);
 
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
   int GetAngle() override;
   TElt* Copie(TListeCV* l, bool Lien) override;
   void DirectX() override;

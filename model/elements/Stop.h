@@ -8,6 +8,8 @@ public:
   TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
 
   void Set(int, int contrainte, float t, float duree);
+  void Paint(TDC& dc, int Feuille, bool Selection) override;
+  TRect GetRectEcran(TDC& dc) override;
   TVect GetVDir() override { return TVect(0, 1); }
   TElt* Copie(TListeCV* l, bool Lien) override;
   void DirectX() override;

@@ -1,0 +1,92 @@
+// Every case of tests/data/paint/: NAME.args holds "IN SHEET [options]" for
+// `trajectoires-cli paint`, run in that folder, and NAME.log the journal it must write. When
+// the command fails or says something, the expected text ends with "--- code N" and what it
+// wrote on standard error. TRAJ_REGENERE=1 rewrites the expected files from what is drawn.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path DOSSIER = fs::path(TRAJ_TEST_DATA) / "paint";
+
+std::string Lit(const fs::path& chemin) {
+  std::ifstream f(chemin, std::ios::binary);
+  std::ostringstream texte;
+  texte << f.rdbuf();
+  return texte.str();
+}
+
+void Ecrit(const fs::path& chemin, const std::string& texte) { std::ofstream(chemin, std::ios::binary) << texte; }
+
+std::string Guillemets(const std::string& s) {
+  std::string r = "'";
+  for (char c : s) r += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return r + "'";
+}
+
+std::vector<std::string> Cas() {
+  std::vector<std::string> noms;
+  for (const auto& f : fs::directory_iterator(DOSSIER))
+    if (f.path().extension() == ".args") noms.push_back(f.path().stem().string());
+  std::sort(noms.begin(), noms.end());
+  return noms;
+}
+
+class PeintureCas : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(PeintureCas, JournalAttendu) {
+  const std::string nom = GetParam();
+  // Per case and process: ctest runs the cases side by side.
+  const fs::path brouillon =
+      fs::temp_directory_path() / ("trajectoires-peinture-" + nom + "-" + std::to_string(getpid()));
+  fs::remove_all(brouillon);
+  fs::create_directories(brouillon);
+  const fs::path sortie = brouillon / "sortie.log";
+  const fs::path erreurs = brouillon / "erreurs.txt";
+
+  // IN and SHEET, then OUT, then the options.
+  std::istringstream args(Lit(DOSSIER / (nom + ".args")));
+  std::vector<std::string> mots;
+  for (std::string m; args >> m;) mots.push_back(m);
+  ASSERT_GE(mots.size(), 2u) << nom << ".args doit commencer par IN et SHEET";
+  mots.insert(mots.begin() + 2, sortie.string());
+  std::string commande = "cd " + Guillemets(DOSSIER.string()) + " && " + Guillemets(TRAJ_CLI) + " paint";
+  for (const std::string& m : mots) commande += " " + Guillemets(m);
+  commande += " 2>" + Guillemets(erreurs.string());
+  const int statut = std::system(commande.c_str());
+  ASSERT_TRUE(WIFEXITED(statut)) << commande;
+  const int code = WEXITSTATUS(statut);
+
+  std::string obtenu = fs::exists(sortie) ? Lit(sortie) : "";
+  const std::string err = Lit(erreurs);
+  if (code != 0 || !err.empty()) obtenu += "--- code " + std::to_string(code) + "\n" + err;
+
+  const fs::path attendu = DOSSIER / (nom + ".log");
+  if (std::getenv("TRAJ_REGENERE") && std::string(std::getenv("TRAJ_REGENERE")) == "1") Ecrit(attendu, obtenu);
+  if (Lit(attendu) != obtenu) {
+    const fs::path copie = brouillon / "obtenu.log";
+    Ecrit(copie, obtenu);
+    const std::string diff = "diff -u " + Guillemets(attendu.string()) + " " + Guillemets(copie.string()) + " > " +
+                             Guillemets((brouillon / "diff").string());
+    [[maybe_unused]] const int d = std::system(diff.c_str());
+    ADD_FAILURE() << "le journal de " << nom << " diffère de l'attendu :\n" << Lit(brouillon / "diff");
+  }
+  fs::remove_all(brouillon);
+}
+
+INSTANTIATE_TEST_SUITE_P(Donnees, PeintureCas, ::testing::ValuesIn(Cas()),
+                         [](const ::testing::TestParamInfo<std::string>& i) { return i.param; });
+
+}  // namespace
