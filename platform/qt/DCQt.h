@@ -5,7 +5,8 @@
 // mode's upward y.
 #include <QPainter>
 #include <QPointer>
-#include <QPolygon>
+#include <QImage>
+#include <QList>
 #include <QRect>
 #include <QWidget>
 
@@ -64,6 +65,10 @@ public:
 private:
   QPen PenQt() const;
   void Trace(const QPoint& a, const QPoint& b);
+  // The image the painter draws on, when one-pixel lines may be written into it directly:
+  // a plain 32-bit image, unclipped and untransformed. Long lines are mostly short runs,
+  // which cost Qt a call each.
+  QImage* ImageDirecte() const;
 
   QPainter* painter_;
   bool pixels_;  // the painter fills pixels (an image, a widget), rather than writing vectors
@@ -79,7 +84,7 @@ private:
   TColor couleurTexte_ = TColor::Black;
   TColor couleurFond_ = TColor::White;
   TBkMode modeFond_ = TBkMode::Opaque;
-  QPolygon encre_, trous_;  // pixels of the line being drawn, kept to spare allocations
+  QList<QRect> encre_, trous_;  // runs of pixels of the line being drawn, kept to spare allocations
 };
 
 // The surface of a widget: invalidated rectangles become QWidget::update.

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPixmap>
 #include <QWidget>
 
 #include <algorithm>
@@ -128,6 +129,32 @@ void Verifie(const QImage& image, std::istringstream& l, const std::string& ordr
     ADD_FAILURE() << ou << " : « " << ordre << " » inconnu";
 }
 
+// The surface writes one-pixel lines straight into a plain image, and has Qt fill them on
+// any other device or under a clip: every case is drawn all three ways.
+enum class Support { Image, Pixmap, ImageDecoupee };
+
+QImage Dessine(const std::vector<std::pair<int, std::string>>& dessin, int largeur, int hauteur, Support support) {
+  QImage image = ImageBlanche(largeur, hauteur);
+  QPixmap pixmap(largeur, hauteur);
+  pixmap.fill(Qt::white);
+  {
+    QPainter painter;
+    if (support == Support::Pixmap)
+      painter.begin(&pixmap);
+    else
+      painter.begin(&image);
+    if (support == Support::ImageDecoupee) painter.setClipRect(image.rect());
+    TDCQt dc(&painter);
+    for (std::size_t i = 1; i < dessin.size(); ++i) {
+      std::istringstream l(dessin[i].second);
+      std::string ordre;
+      l >> ordre;
+      EXPECT_TRUE(Execute(dc, l, ordre)) << "ligne " << dessin[i].first << " du dessin : " << dessin[i].second;
+    }
+  }
+  return support == Support::Pixmap ? pixmap.toImage().convertToFormat(QImage::Format_RGB32) : image;
+}
+
 class DessinTest : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(DessinTest, PictureMatchesItsExpectation) {
@@ -139,24 +166,18 @@ TEST_P(DessinTest, PictureMatchesItsExpectation) {
   int largeur = 0, hauteur = 0;
   std::istringstream(dessin.front().second) >> largeur >> hauteur;
   ASSERT_GT(largeur, 0) << "la première ligne donne la taille de l'image";
-  QImage image = ImageBlanche(largeur, hauteur);
-  {
-    QPainter painter(&image);
-    TDCQt dc(&painter);
-    for (std::size_t i = 1; i < dessin.size(); ++i) {
-      std::istringstream l(dessin[i].second);
+  for (const auto& [support, nom] : {std::pair{Support::Image, "image"}, std::pair{Support::Pixmap, "pixmap"},
+                                     std::pair{Support::ImageDecoupee, "image-decoupee"}}) {
+    SCOPED_TRACE(nom);
+    const QImage image = Dessine(dessin, largeur, hauteur, support);
+    for (const auto& [n, texte] : attendu) {
+      std::istringstream l(texte);
       std::string ordre;
       l >> ordre;
-      EXPECT_TRUE(Execute(dc, l, ordre)) << "ligne " << dessin[i].first << " du dessin : " << dessin[i].second;
+      Verifie(image, l, ordre, n);
     }
+    if (HasFailure()) image.save(QString::fromStdString(testing::TempDir() + GetParam() + "-" + nom + ".png"));
   }
-  for (const auto& [n, texte] : attendu) {
-    std::istringstream l(texte);
-    std::string ordre;
-    l >> ordre;
-    Verifie(image, l, ordre, n);
-  }
-  if (HasFailure()) image.save(QString::fromStdString(testing::TempDir() + GetParam() + ".png"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Cas, DessinTest, ::testing::ValuesIn(Cas()),
