@@ -44,7 +44,8 @@ std::optional<std::vector<int>> Entiers(const std::string& texte, std::size_t co
   std::size_t debut = 0;
   while (true) {
     const std::size_t fin = texte.find(':', debut);
-    const auto v = Entier(std::string_view(texte).substr(debut, fin == std::string::npos ? std::string::npos : fin - debut));
+    const std::size_t n = fin == std::string::npos ? std::string::npos : fin - debut;
+    const auto v = Entier(std::string_view(texte).substr(debut, n));
     if (!v || *v < 0) return std::nullopt;
     valeurs.push_back(*v);
     if (fin == std::string::npos) break;
@@ -148,7 +149,8 @@ int Peins(const std::vector<std::string>& args) {
     return 1;
   }
   if (*feuille < 1 || *feuille > cadre.nbFeuilles)
-    return Refus("pas de feuille " + std::to_string(*feuille) + " : la routine en a " + std::to_string(cadre.nbFeuilles));
+    return Refus("pas de feuille " + std::to_string(*feuille) + " : la routine en a " +
+                 std::to_string(cadre.nbFeuilles));
   if (const std::string pourquoi = Selectionne(o); !pourquoi.empty()) return Refus(pourquoi);
 
   // The frame gives every sheet its full width and half as much height.
