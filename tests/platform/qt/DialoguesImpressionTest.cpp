@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDialog>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QSpinBox>

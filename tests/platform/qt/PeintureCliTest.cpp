@@ -67,15 +67,6 @@ TEST_F(PeintureCliTest, SheetOfTwoKitesOnAWhiteImage) {
   EXPECT_TRUE(BoiteEncre(image, QRect(0, 0, 46, 440)).isValid());
 }
 
-TEST_F(PeintureCliTest, NarrowSheetHasNeitherLabelsNorGrid) {
-  ASSERT_EQ(Peins("impression/cinq_feuilles.rou", 2, "--width 400 --png '" + Png("f2.png") + "'"), 0);
-  const QImage image(QString::fromStdString(Png("f2.png")));
-  ASSERT_EQ(image.size(), QSize(400, 200));
-  EXPECT_FALSE(BoiteEncre(image, QRect(0, 0, 20, 200)).isValid());
-  EXPECT_FALSE(BoiteEncre(image, QRect(0, 188, 400, 12)).isValid());
-  EXPECT_EQ(Compte(image, QRect(30, 10, 50, 70), qRgb(0, 0, 0)), 0);  // (-100..-77, 58..95): no dot
-}
-
 TEST_F(PeintureCliTest, UnwritablePictureGivesOne) {
   EXPECT_EQ(Peins("impression/une_feuille.rou", 1, "--png /nulle-part/f.png"), 1);
   std::ifstream erreurs(dossier / "erreurs.txt");
