@@ -35,13 +35,13 @@ double CelluleParEm(const QString& face) {
   return dernierRapport;
 }
 
-// Angle of the ray from the centre of r through p, turned into the parameter of the ellipse
-// inscribed in r, in degrees counter-clockwise on screen: the arc must end on the rays
-// whatever the ellipse's aspect, and Qt's angles are the ellipse's parameter.
 // The shape whose one-pixel outline covers exactly the pixels of r: Qt draws a cosmetic
 // outline to the right of and below the mathematical edge.
 QRectF Contour(const QRect& r) { return QRectF(r.x(), r.y(), r.width() - 1, r.height() - 1); }
 
+// Angle of the ray from the centre of r through p, turned into the parameter of the ellipse
+// inscribed in r, in degrees counter-clockwise on screen: the arc must end on the rays
+// whatever the ellipse's aspect, and Qt's angles are the ellipse's parameter.
 double AngleParametre(const QRectF& r, const QPointF& p) {
   const double dx = p.x() - r.center().x();
   const double dy = r.center().y() - p.y();  // y down on the device
@@ -161,9 +161,10 @@ void TDCQt::SelectStockObject(TStockObject objet) {
 }
 
 QPoint TDCQt::VersPeripherique(const TPoint& p) const {
-  if (mode_ == TMapMode::Texte || extFenetre_.cx == 0 || extFenetre_.cy == 0) return QPoint(Coordonnee(p.x), Coordonnee(p.y));
-  const double x = static_cast<double>(p.x - orgFenetre_.x) * extVue_.cx / extFenetre_.cx;
-  const double y = static_cast<double>(p.y - orgFenetre_.y) * extVue_.cy / extFenetre_.cy;
+  if (mode_ == TMapMode::Texte || extFenetre_.cx == 0 || extFenetre_.cy == 0)
+    return QPoint(Coordonnee(p.x), Coordonnee(p.y));
+  const double x = (static_cast<double>(p.x) - orgFenetre_.x) * extVue_.cx / extFenetre_.cx;
+  const double y = (static_cast<double>(p.y) - orgFenetre_.y) * extVue_.cy / extFenetre_.cy;
   return QPoint(Coordonnee(x), Coordonnee(y));
 }
 
@@ -183,8 +184,9 @@ double TDCQt::HauteurPeripherique(int hauteur) const {
 QFont TDCQt::PoliceQt() const {
   const QString face = FacePolice(font_.Nom.empty() ? "MS Sans Serif" : font_.Nom);
   QFont f(face);
-  double em = HauteurPeripherique(font_.Hauteur == 0 ? 16 : font_.Hauteur);
-  // A negative height is the em itself; a positive one, the whole cell.
+  // A negative height is the em itself; a positive one, the whole cell; none, a cell of 16
+  // pixels whatever the mode.
+  double em = font_.Hauteur == 0 ? 16 : HauteurPeripherique(font_.Hauteur);
   if (font_.Hauteur >= 0) em /= CelluleParEm(face);
   f.setPixelSize(std::max(1, static_cast<int>(std::lround(em))));
   f.setWeight(static_cast<QFont::Weight>(std::clamp(font_.Graisse == 0 ? 400 : font_.Graisse, 1, 1000)));
