@@ -98,6 +98,7 @@ int Echantillon(const std::vector<std::string>& args) {
 int Peins(const std::vector<std::string>& args);  // cli/Peinture.cpp
 #ifdef TRAJ_AVEC_RENDU
 int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
+int Imprime(const std::vector<std::string>& args);  // cli/Impression.cpp, where Qt's PDF writer is
 #endif
 
 const std::vector<TCommande>& Commandes() {
@@ -115,6 +116,8 @@ const std::vector<TCommande>& Commandes() {
 #ifdef TRAJ_AVEC_RENDU
       {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1)",
        Rend},
+      {"print", "IN OUT.pdf", "relit IN, imprime toutes ses feuilles dans le PDF OUT.pdf (--per-page 1, 2, 4 ou 8, défaut 8)",
+       Imprime},
 #endif
   };
   return commandes;

@@ -60,7 +60,7 @@ struct TOptions {
   int Largeur = 880;
   std::optional<std::vector<int>> Courant;  // K, I
   std::optional<std::vector<int>> Plage;    // K, I, J
-  bool Png = false;
+  std::string Png;  // empty: no picture
 };
 
 // Empty when the options are read, otherwise why not.
@@ -83,7 +83,8 @@ std::string LitOptions(const std::vector<std::string>& args, TOptions& o) {
     } else if (a == "--range") {
       if (!(o.Plage = Entiers(v, 3))) return "--range attend K:I:J, pas « " + v + " »";
     } else {
-      o.Png = true;
+      if (v.empty()) return "--png attend un nom de fichier";
+      o.Png = v;
     }
   }
   if (o.Positionnels.size() != 3) return "il faut IN, SHEET et OUT.log";
@@ -126,13 +127,20 @@ std::string Selectionne(const TOptions& o) {
 
 }  // namespace
 
+#ifdef TRAJ_AVEC_RENDU
+// cli/PeinturePng.cpp: the sheet on a white image of W by W/2, through the Qt surface.
+bool PeintPng(TFenDessin& feuille, int largeur, const std::string& chemin);
+#endif
+
 int Peins(const std::vector<std::string>& args) {
   TOptions o;
   if (const std::string pourquoi = LitOptions(args, o); !pourquoi.empty()) return Usage(pourquoi);
   const auto feuille = Entier(o.Positionnels[1]);
   if (!feuille) return Usage("SHEET est un numéro de feuille, pas « " + o.Positionnels[1] + " »");
+#ifndef TRAJ_AVEC_RENDU
   // The picture on an image is drawn by the Qt surface, which this build does not have.
-  if (o.Png) return Refus("--png demande la surface de dessin Qt, que cette version ne contient pas encore");
+  if (!o.Png.empty()) return Refus("--png demande la surface de dessin Qt, que cette version ne contient pas");
+#endif
 
   TFenCadre2 cadre;
   cadre.SetupWindow();
@@ -153,5 +161,11 @@ int Peins(const std::vector<std::string>& args) {
     std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", o.Positionnels[2].c_str());
     return 1;
   }
+#ifdef TRAJ_AVEC_RENDU
+  if (!o.Png.empty() && !PeintPng(*cadre.GetFeuille(*feuille - 1), o.Largeur, o.Png)) {
+    std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", o.Png.c_str());
+    return 1;
+  }
+#endif
   return 0;
 }

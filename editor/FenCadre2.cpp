@@ -17,6 +17,7 @@ TFenCadre2::TFenCadre2() {
 
 TFenCadre2::~TFenCadre2() {
   if (pFenDes0 == GetFeuille(0)) pFenDes0 = nullptr;
+  if (TFenDessin::Imp.pFenCadre == this) TFenDessin::Imp.pFenCadre = nullptr;
 }
 
 void TFenCadre2::SetupWindow() { AddFeuille(); }

@@ -14,6 +14,7 @@ int TFenDessin::nCV = 0;
 bool TFenDessin::MAJPermanente = false;
 bool TFenDessin::MAJUp = true;
 TImpression TFenDessin::Imp;
+std::unique_ptr<TImprimante> TFenDessin::Printer;
 
 void TFenDessin::ReinitialiseStatiques() {
   EchIE = 1.0f;
@@ -28,11 +29,19 @@ void TFenDessin::ReinitialiseStatiques() {
   MAJPermanente = false;
   MAJUp = true;
   Imp = TImpression();
+  Printer.reset();
 }
 
 TFenDessin::TFenDessin(TFenCadre2* cadre, TFenListe* liste, int num)
     : pFenCadre(cadre), pFenListe(liste), Num(num) {
   EchIE = 1.0f;
+  if (!Printer) {
+    Printer = std::make_unique<TImprimante>();
+    // In hundredths of a millimetre: room above for the header, A4.
+    Printer->GetDonnees().Marges = TMarges{500, 2000, 500, 1000};
+    Printer->GetDonnees().Papier = TSize{21000, 29700};
+    Imp.SetpFenCadrepPrinter(pFenCadre, Printer.get());
+  }
 }
 
 void TFenDessin::MessageErreur(char* texte) {

@@ -2,9 +2,11 @@
 // One sheet ("feuille") of the editor: its number, its mapping of the wind window onto
 // pixels, and the state of the mouse machine shared by all sheets. The widget that shows a
 // sheet forwards its events here and gives it the size of its client area.
+#include <memory>
 #include <string>
 
 #include "editor/Impression.h"
+#include "editor/Imprimante.h"
 #include "model/Types.h"
 #include "platform/Dialogues.h"
 
@@ -92,6 +94,8 @@ public:
   static bool MAJPermanente;
   static bool MAJUp;
   static TImpression Imp;
+  // Made by the first sheet, with A4 paper and the editor's margins; Imp prints through it.
+  static std::unique_ptr<TImprimante> Printer;
 
   static void ReinitialiseStatiques();
 };

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+struct TDonneesImprimante;
+
 enum class TBoutons { OK, OKAnnuler, OuiNon, OuiNonAnnuler };
 enum class TIcone { Aucune, Information, Question, Avertissement, Erreur };
 enum class TReponse { OK, Annuler, Oui, Non };
@@ -26,6 +28,11 @@ public:
   virtual std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
                                             const std::string& valeur) = 0;
   virtual void SetCurseur(TCurseur curseur) = 0;
+  // The print dialog (printer, copies, or a PDF file) and the page setup dialog (paper and
+  // margins): they change donnees as the user chose, and are false when cancelled. With no
+  // one to ask, they accept the settings as they are, as the first button would.
+  virtual bool Impression(TDonneesImprimante&) { return true; }
+  virtual bool MiseEnPage(TDonneesImprimante&) { return true; }
 };
 
 // Answers every box with its first button and writes what it was asked to standard error:

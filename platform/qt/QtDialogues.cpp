@@ -4,6 +4,8 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
 #include <QStringList>
 
 namespace {
@@ -59,7 +61,12 @@ std::optional<std::string> Chemin(const QString& chemin) {
 
 }  // namespace
 
-TQtDialogues::~TQtDialogues() { RetireAttente(); }
+TQtDialogues::TQtDialogues() { SetPeripheriqueImpression(&imprimantes_); }
+
+TQtDialogues::~TQtDialogues() {
+  RetireAttente();
+  if (&PeripheriqueImpression() == &imprimantes_) SetPeripheriqueImpression(nullptr);
+}
 
 TReponse TQtDialogues::MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons,
                                   TIcone icone) {
@@ -113,6 +120,36 @@ void TQtDialogues::SetCurseur(TCurseur curseur) {
   }
   RetireAttente();
   if (zone_) zone_->setCursor(FormeQt(curseur));
+}
+
+bool TQtDialogues::Impression(TDonneesImprimante& donnees) {
+  QPrinter printer(QPrinter::HighResolution);
+  VersQPrinter(donnees, printer, true);
+  QPrintDialog dialogue(&printer, parent_);
+  dialogue.setWindowTitle(QStringLiteral("Imprimer"));
+  // The pages are all printed: what a page holds is known only as the job runs.
+  dialogue.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  dialogue.setOption(QAbstractPrintDialog::PrintSelection, false);
+  dialogue.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+  if (dialogue.exec() != QDialog::Accepted) return false;
+  DepuisQPrinter(printer, donnees);
+  return true;
+}
+
+bool TQtDialogues::MiseEnPage(TDonneesImprimante& donnees) {
+  // Qt sets up pages for printers only; paper and margins are the same for a file.
+  TDonneesImprimante page = donnees;
+  page.Fichier.clear();
+  QPrinter printer(QPrinter::HighResolution);
+  VersQPrinter(page, printer, true);
+  QPageSetupDialog dialogue(&printer, parent_);
+  dialogue.setWindowTitle(QStringLiteral("Mise en page"));
+  if (dialogue.exec() != QDialog::Accepted) return false;
+  DepuisQPrinter(printer, page);
+  donnees.Papier = page.Papier;
+  donnees.Paysage = page.Paysage;
+  donnees.Marges = page.Marges;
+  return true;
 }
 
 void TQtDialogues::RetireAttente() {

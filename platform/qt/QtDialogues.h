@@ -1,7 +1,9 @@
 #pragma once
-// The dialogs of the real application: Qt's message box, file and input dialogs, the
-// editor's status bar and the mouse cursor.
+// The dialogs of the real application: Qt's message box, file, input, print and page setup
+// dialogs, the editor's status bar and the mouse cursor. While it is the one in use, print
+// jobs go to Qt's printers and PDF files, the ones its print dialog offers.
 #include "platform/Dialogues.h"
+#include "platform/qt/ImprimanteQt.h"
 
 #include <QCursor>
 #include <QPointer>
@@ -11,7 +13,7 @@
 
 class TQtDialogues : public TDialogues {
 public:
-  TQtDialogues() = default;
+  TQtDialogues();
   ~TQtDialogues() override;
   TQtDialogues(const TQtDialogues&) = delete;
   TQtDialogues& operator=(const TQtDialogues&) = delete;
@@ -32,6 +34,8 @@ public:
   std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
                                     const std::string& valeur) override;
   void SetCurseur(TCurseur curseur) override;
+  bool Impression(TDonneesImprimante& donnees) override;
+  bool MiseEnPage(TDonneesImprimante& donnees) override;
 
 private:
   void RetireAttente();
@@ -40,6 +44,7 @@ private:
   QPointer<QStatusBar> barre_;
   QPointer<QWidget> zone_;
   bool attente_ = false;  // our busy cursor is on the application's override stack
+  TPeripheriqueQt imprimantes_;
 };
 
 // A file filter in Qt's form. Callers may give it in the two-column form
