@@ -23,7 +23,8 @@ TElt* TStop::Copie(TListeCV* l, bool Lien) {
 
 void TStop::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "STOP   ", decalageFeuille, decalageTemps);
-  Fichier += "\t\t" + Gcvt(DureeConstante, 6);
+  Fichier += "\t\t";
+  AjouteGcvt(Fichier, DureeConstante, 6);
   Enregistrer2(Fichier);
 }
 
