@@ -4,6 +4,7 @@
 // sheet forwards its events here and gives it the size of its client area.
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "editor/Impression.h"
 #include "editor/Imprimante.h"
@@ -61,7 +62,7 @@ public:
   // Reading of routine and figure files. One line, without its line end: with pListe null
   // it joins the document (the routine reader), otherwise it is appended to pListe (the
   // figure reader). The insertion reader builds into the six tracks of pTable instead.
-  void CreeElement(const char* ligne, TListeCV* pListe);
+  void CreeElement(std::string_view ligne, TListeCV* pListe);
   void CreeElementInsere(const char* ligne, TListeCV* pTable);
   // The elements of a figure file, in a new list; empty when the file cannot be read.
   TListeCV* OuvrirFigure(const char* Fichier);

@@ -61,19 +61,19 @@ constexpr std::array<TDefinition, 13> Definitions = {{
     {"FIGURE", TRecord::Figure, "fsd"},
 }};
 
-// One element line, as read.
+// One element line, as read. Nothing in it is allocated: a routine has many thousand lines.
 struct TLigne {
   const TDefinition* Def = nullptr;
   int Cv = 0, Num = 0, Contrainte = 0, Feuille = 0;
   float t = 0, x = 0, y = 0, V = 0;
-  std::vector<float> Reels;
-  std::vector<int> Entiers;
-  std::string Mot;
+  std::array<float, 8> Reels{};  // as many as the longest record's fields
+  std::array<int, 1> Entiers{};
+  std::string_view Mot;  // in the line read
   int CvPere = -1, IndexPere = -1;
 };
 
 // The header lines: the team and the music, in any reader mode and anywhere in the file.
-bool LitEntete(const std::string& mot, TLecteurChamps& champs) {
+bool LitEntete(std::string_view mot, TLecteurChamps& champs) {
   if (mot == "TEAM") {
     int team = 0;
     if (champs.Entier(team)) Team = team;
@@ -100,19 +100,15 @@ bool LitChamps(TLecteurChamps& champs, TLigne& l) {
   if (!(champs.Entier(l.Cv) && champs.Entier(l.Num) && champs.Entier(l.Contrainte) && champs.Entier(l.Feuille) &&
         champs.Reel(l.t) && champs.Reel(l.x) && champs.Reel(l.y) && champs.Reel(l.V)))
     return false;
+  std::size_t reels = 0, entiers = 0;
   for (char c : l.Def->Champs) {
     bool lu = false;
-    if (c == 'f') {
-      float f = 0;
-      lu = champs.Reel(f);
-      l.Reels.push_back(f);
-    } else if (c == 'd') {
-      int d = 0;
-      lu = champs.Entier(d);
-      l.Entiers.push_back(d);
-    } else {
+    if (c == 'f')
+      lu = champs.Reel(l.Reels[reels++]);
+    else if (c == 'd')
+      lu = champs.Entier(l.Entiers[entiers++]);
+    else
       lu = champs.Mot(l.Mot);
-    }
     if (!lu) return false;
   }
   // The synchronisation tail is optional; a kite without its index makes no link.
@@ -137,7 +133,7 @@ TElt* Construit(const TLigne& l, TFenDessin* fen, TListeCV* liste) {
     case TRecord::Stop: return new TStop(p, fen, nullptr, liste, true);
     case TRecord::Pose: return new TPose(p, fen, nullptr, liste, true);
     case TRecord::AllerA: return new TAllerA(p, fen, nullptr, liste, true);
-    case TRecord::Figure: return new TFigure(p, fen, nullptr, liste, l.Mot.c_str(), true);
+    case TRecord::Figure: return new TFigure(p, fen, nullptr, liste, std::string(l.Mot).c_str(), true);
   }
   return nullptr;
 }
@@ -166,9 +162,9 @@ void Remplit(TElt* e, const TLigne& l) {
 }
 
 // Reads an element line; false when it is none (unknown word, header, or broken line).
-bool LitElement(const char* texte, bool avecEntete, TLigne& l) {
+bool LitElement(std::string_view texte, bool avecEntete, TLigne& l) {
   TLecteurChamps champs(texte);
-  std::string mot;
+  std::string_view mot;
   if (!champs.Mot(mot)) return false;
   if (avecEntete && LitEntete(mot, champs)) return false;
   const auto def = std::find_if(Definitions.begin(), Definitions.end(), [&](const TDefinition& d) { return d.Nom == mot; });
@@ -184,7 +180,7 @@ bool LitElement(const char* texte, bool avecEntete, TLigne& l) {
 bool FigureExiste(const TLigne& l) {
   std::error_code erreur;
   if (std::filesystem::is_regular_file(l.Mot, erreur)) return true;
-  TFenDessin::MessageErreur(" Figure " + std::to_string(l.Num) + "  : fichier '" + l.Mot + "' inexistant");
+  TFenDessin::MessageErreur(" Figure " + std::to_string(l.Num) + "  : fichier '" + std::string(l.Mot) + "' inexistant");
   return false;
 }
 
@@ -194,7 +190,9 @@ constexpr std::size_t IMBRICATION_MAX = 16;
 
 }  // namespace
 
-void TFenDessin::CreeElement(const char* ligne, TListeCV* pListe) {
+void TFenDessin::CreeElement(std::string_view ligne, TListeCV* pListe) {
+  // A line ends at a NUL byte, as it did when lines went through C strings.
+  ligne = ligne.substr(0, ligne.find('\0'));
   TLigne l;
   if (!LitElement(ligne, true, l)) return;
   if (pListe) {
@@ -264,7 +262,7 @@ TListeCV* TFenDessin::OuvrirFigure(const char* Fichier) {
   }
   FiguresOuvertes.push_back(chemin);
   DecoupeLignes(
-      *contenu, [&](std::string_view ligne) { CreeElement(std::string(ligne).c_str(), liste); },
+      *contenu, [&](std::string_view ligne) { CreeElement(ligne, liste); },
       [&](int numero) { MessageErreur("Figure '" + std::string(Fichier) + "' : ligne " + std::to_string(numero) + " trop longue : ignorée"); });
   FiguresOuvertes.pop_back();
   return liste;
@@ -293,7 +291,7 @@ void VideDocument(TFenCadre2& cadre) {
 void LitLignesRoutine(TFenCadre2& cadre, std::string_view texte) {
   TFenDessin* fen = cadre.GetFeuille(0);
   DecoupeLignes(
-      texte, [&](std::string_view ligne) { fen->CreeElement(std::string(ligne).c_str(), nullptr); },
+      texte, [&](std::string_view ligne) { fen->CreeElement(ligne, nullptr); },
       [&](int numero) { TFenDessin::MessageErreur("Ligne " + std::to_string(numero) + " trop longue : ignorée"); });
 }
 }  // namespace

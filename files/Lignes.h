@@ -30,10 +30,15 @@ class TLecteurChamps {
 public:
   explicit TLecteurChamps(std::string_view ligne) : Reste(ligne) {}
   bool Mot(std::string& mot);
+  // The same, without a copy: the word stays in the line read.
+  bool Mot(std::string_view& mot);
   bool Entier(int& n);
   bool Reel(float& f);
 
 private:
   void SauteBlancs();
+  // Whether the locale's decimal point is '.', asked once per line.
+  bool PointEstC();
   std::string_view Reste;
+  int PointC = -1;  // -1: not asked yet
 };

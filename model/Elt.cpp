@@ -144,7 +144,7 @@ void TElt::Enregistrer(std::string& Fichier, int decalageFeuille, float decalage
   // Appended piece by piece: a routine of many thousand lines is written in one buffer.
   for (int n : {kite, Num, Contrainte, feuille - decalageFeuille}) {
     Fichier += '\t';
-    Fichier += std::to_string(n);
+    AjouteEntier(Fichier, n);
   }
   Fichier += '\t';
   AjouteGcvt(Fichier, Gett2Param() - decalageTemps, 6);
@@ -162,7 +162,10 @@ void TElt::Enregistrer2(std::string& Fichier) {
   // A father outside any list has no index to give: the line goes without its link.
   if (pPere && pPere->pListeCV) {
     TListeCV& l = *pPere->pListeCV;
-    Fichier += '\t' + std::to_string(l.Num) + '\t' + std::to_string(l.GetIndex(pPere) - l.IndexPremier);
+    Fichier += '\t';
+    AjouteEntier(Fichier, l.Num);
+    Fichier += '\t';
+    AjouteEntier(Fichier, l.GetIndex(pPere) - l.IndexPremier);
   }
   Fichier += '\n';
 }

@@ -7,3 +7,5 @@
 std::string Gcvt(double valeur, int chiffres);
 // The same, written at the end of `texte`.
 void AjouteGcvt(std::string& texte, double valeur, int chiffres);
+// An integer as std::to_string writes it, at the end of `texte`.
+void AjouteEntier(std::string& texte, long long valeur);

@@ -62,6 +62,9 @@ TElt* TAllerA::Copie(TListeCV* l, bool Lien) {
 void TAllerA::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "ALLERA ", decalageFeuille, decalageTemps);
   // The duration, then the two axes of the kite at the target and its height.
-  for (float v : {DureeConstante, xZ, yZ, zZ, xY, yY, zY, z}) Fichier += '\t' + Gcvt(v, 6);
+  for (float v : {DureeConstante, xZ, yZ, zZ, xY, yY, zY, z}) {
+    Fichier += '\t';
+    AjouteGcvt(Fichier, v, 6);
+  }
   Enregistrer2(Fichier);
 }

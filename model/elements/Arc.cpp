@@ -237,12 +237,18 @@ TElt* TArcRevo::Copie(TListeCV* l, bool Lien) {
 
 void TArc::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "ARC     ", decalageFeuille, decalageTemps);
-  Fichier += Gcvt(Rayon, 6) + "\t\t" + Gcvt(Angle, 6);
+  AjouteGcvt(Fichier, Rayon, 6);
+  Fichier += "\t\t";
+  AjouteGcvt(Fichier, Angle, 6);
   Enregistrer2(Fichier);
 }
 
 void TArcRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "ARCREVO ", decalageFeuille, decalageTemps);
-  Fichier += Gcvt(Rayon, 6) + '\t' + Gcvt(Angle, 6) + '\t' + Gcvt(AngleRevo, 6);
+  AjouteGcvt(Fichier, Rayon, 6);
+  Fichier += '\t';
+  AjouteGcvt(Fichier, Angle, 6);
+  Fichier += '\t';
+  AjouteGcvt(Fichier, AngleRevo, 6);
   Enregistrer2(Fichier);
 }

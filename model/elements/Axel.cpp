@@ -23,6 +23,7 @@ void TManoeuvreCote::Transforme(TPointf Origine, TPointf Destination, int Mode) 
 
 void TManoeuvreCote::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, NomEnregistrement(), decalageFeuille, decalageTemps);
-  Fichier += (Gauche ? "\t\t1\t\t" : "\t\t0\t\t") + Gcvt(DureeConstante, 6);
+  Fichier += Gauche ? "\t\t1\t\t" : "\t\t0\t\t";
+  AjouteGcvt(Fichier, DureeConstante, 6);
   Enregistrer2(Fichier);
 }

@@ -151,6 +151,11 @@ TElt* TFigure::Copie(TListeCV* l, bool Lien) {
 
 void TFigure::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "FIGURE  ", decalageFeuille, decalageTemps);
-  Fichier += "\t" + Gcvt(DureeConstante, 6) + "\t" + NomFichier + "\t" + std::to_string(Transformation);
+  Fichier += '\t';
+  AjouteGcvt(Fichier, DureeConstante, 6);
+  Fichier += '\t';
+  Fichier += NomFichier;
+  Fichier += '\t';
+  AjouteEntier(Fichier, Transformation);
   Enregistrer2(Fichier);
 }

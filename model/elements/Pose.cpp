@@ -57,6 +57,9 @@ TElt* TPose::Copie(TListeCV* l, bool Lien) {
 
 void TPose::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "POSE   ", decalageFeuille, decalageTemps);
-  Fichier += "\t\t" + Gcvt(DureeConstante, 6) + "\t\t" + std::to_string(TypePose);
+  Fichier += "\t\t";
+  AjouteGcvt(Fichier, DureeConstante, 6);
+  Fichier += "\t\t";
+  AjouteEntier(Fichier, TypePose);
   Enregistrer2(Fichier);
 }

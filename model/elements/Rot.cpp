@@ -26,6 +26,9 @@ TElt* TRot::Copie(TListeCV* l, bool Lien) {
 
 void TRot::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "ROT   ", decalageFeuille, decalageTemps);
-  Fichier += "\t\t" + Gcvt(DureeConstante, 6) + '\t' + Gcvt(Angle, 6);
+  Fichier += "\t\t";
+  AjouteGcvt(Fichier, DureeConstante, 6);
+  Fichier += '\t';
+  AjouteGcvt(Fichier, Angle, 6);
   Enregistrer2(Fichier);
 }

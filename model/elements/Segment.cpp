@@ -44,6 +44,7 @@ void TSegment::Enregistrer(std::string& Fichier, int decalageFeuille, float deca
 
 void TSegRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "SEGREVO ", decalageFeuille, decalageTemps);
-  Fichier += '\t' + Gcvt(Angle, 6);
+  Fichier += '\t';
+  AjouteGcvt(Fichier, Angle, 6);
   Enregistrer2(Fichier);
 }

@@ -22,6 +22,7 @@ TElt* TStop::Copie(TListeCV* l, bool Lien) {
 
 void TStop::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageTemps) {
   EnregistrerDebut(Fichier, "STOP   ", decalageFeuille, decalageTemps);
-  Fichier += "\t\t" + Gcvt(DureeConstante, 6);
+  Fichier += "\t\t";
+  AjouteGcvt(Fichier, DureeConstante, 6);
   Enregistrer2(Fichier);
 }

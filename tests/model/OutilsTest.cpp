@@ -88,6 +88,8 @@ TEST(Gcvt, WritesThePrintfGeneralForm) {
   EXPECT_EQ(Gcvt(0.5, 4), "0.5");
   EXPECT_EQ(Gcvt(1234567.0, 6), "1.23457e+06");
   EXPECT_EQ(Gcvt(-12.34567, 4), "-12.35");
+  EXPECT_EQ(Gcvt(0.125, 2), "0.12");        // an exact tie goes to the even digit
+  EXPECT_EQ(Gcvt(-0.0001f, 4), "-0.0001");  // just below 1e-4, rounded up into the fixed form
 }
 
 }  // namespace
