@@ -1,6 +1,7 @@
 #include "app/App.h"
 
 #include <QApplication>
+#include <clocale>
 #include <cstdio>
 
 int main(int argc, char** argv) {
@@ -12,6 +13,9 @@ int main(int argc, char** argv) {
     return 1;
   }
   QApplication application(argc, argv);
+  // Qt takes the user's locale, numbers included; under a French one the C library would read
+  // "12.5" in a routine as 12. Files are written with a point whatever the locale.
+  std::setlocale(LC_NUMERIC, "C");
   TApp app;
   app.Demarre();
   return application.exec();
