@@ -9,7 +9,7 @@ namespace {
 class AllerRetourTest : public FichiersTest {};
 
 TEST_F(AllerRetourTest, ShortRoutineComesBackByteForByte) {
-  const std::string courte = Donnee("routine_courte.rou");
+  const std::string courte = Donnee("resave/routine_courte.rou");
   ASSERT_TRUE(Ouvre(courte));
   EXPECT_EQ(TexteRoutine(), courte);
 }

@@ -54,7 +54,7 @@ TEST_F(EcritureTest, ShortRoutineIsWrittenByteForByte) {
   fils->Set(0, CONTRAINTE_VCONSTANTE, 0, std::sqrt(20.0f * 20 + 30 * 30) / 500);
   TFenDessin::Synchronise(fils, 0, TabLElt, 1, &f.fen);
   ASSERT_EQ(fils->pPere, seg);
-  const std::string attendu = Lit(TRAJ_TEST_DATA "/routine_courte.rou");
+  const std::string attendu = Lit(TRAJ_TEST_DATA "/resave/routine_courte.rou");
   EXPECT_EQ(TexteRoutine(), attendu);
 
   // No music, no MUSIQUE line; kites from nbCV on are left out.

@@ -40,7 +40,7 @@ TEST(LecteurChamps, ReadsLikeScanfAndRefusesWhatDoesNotFit) {
 
 TEST_F(LectureTest, ShortRoutineBuildsTeamMusicKitesAndTheirLink) {
   Team = 4;
-  ASSERT_TRUE(Ouvre(Donnee("routine_courte.rou")));
+  ASSERT_TRUE(Ouvre(Donnee("resave/routine_courte.rou")));
   EXPECT_EQ(Team, 2);
   EXPECT_STREQ(_FichierMusique, "ouverture.wav");
   EXPECT_EQ(nbCV, 2);
@@ -62,7 +62,7 @@ TEST_F(LectureTest, ShortRoutineBuildsTeamMusicKitesAndTheirLink) {
 }
 
 TEST_F(LectureTest, CarriageReturnsMakeNoDifference) {
-  std::string texte = Donnee("routine_courte.rou");
+  std::string texte = Donnee("resave/routine_courte.rou");
   ASSERT_FALSE(texte.empty());
   std::string crlf;
   for (char c : texte) crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
@@ -75,7 +75,7 @@ TEST_F(LectureTest, CarriageReturnsMakeNoDifference) {
 }
 
 TEST_F(LectureTest, OpeningEmptiesTheDocumentFirst) {
-  ASSERT_TRUE(Ouvre(Donnee("routine_courte.rou")));
+  ASSERT_TRUE(Ouvre(Donnee("resave/routine_courte.rou")));
   ASSERT_TRUE(Ouvre("POINT\t0\t0\t2\t1\t0\t\t5  5\t\t0.4\t\t\n"));
   EXPECT_EQ(Team, 1);
   EXPECT_STREQ(_FichierMusique, "");
@@ -124,7 +124,7 @@ TEST_F(LectureTest, BadLinesAreDroppedAndSaySo) {
 }
 
 TEST_F(LectureTest, MissingFileEmptiesTheDocumentAndSaysSo) {
-  ASSERT_TRUE(Ouvre(Donnee("routine_courte.rou")));
+  ASSERT_TRUE(Ouvre(Donnee("resave/routine_courte.rou")));
   EXPECT_FALSE(LitRoutine(*cadre, "nulle-part.rou"));
   ASSERT_EQ(dialogues.Boites.size(), 1u);
   EXPECT_EQ(dialogues.Boites[0].Texte, "Problème d'ouverture !!! ");
