@@ -2,21 +2,18 @@
 // with the figures it names beside it, run from its own folder, must give NAME.attendu byte
 // for byte: the OUT file for resave and solve, then standard output, then standard error,
 // then "(code N)" when the exit status is not 0. A sample case takes its time T from its name,
-// NAME@T.rou. With TRAJ_REGENERE=1 in the environment, the expected files are rewritten
-// from what the companion gives, and the cases are skipped: read the diff before committing.
+// NAME@T.rou. TRAJ_REGENERE=1 rewrites the expected files (tests/data/README.md).
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cctype>
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
+
+#include "support/Attendu.h"
 
 namespace fs = std::filesystem;
 
@@ -39,19 +36,6 @@ std::vector<TCas> Cas() {
     for (const fs::path& r : routines) cas.push_back({commande, r});
   }
   return cas;
-}
-
-std::string Lit(const fs::path& p) {
-  std::ifstream f(p, std::ios::binary);
-  return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
-
-void Ecrit(const fs::path& p, const std::string& texte) { std::ofstream(p, std::ios::binary) << texte; }
-
-std::string Cite(const std::string& s) {
-  std::string r = "'";
-  for (char c : s) r += c == '\'' ? std::string("'\\''") : std::string(1, c);
-  return r + "'";
 }
 
 class CasTest : public ::testing::TestWithParam<TCas> {
@@ -82,29 +66,15 @@ TEST_P(CasTest, GivesItsExpectedFile) {
   if (fichier) arguments.push_back((dossier / "out.rou").string());
   if (c.Commande == "sample") arguments.push_back(nom.substr(nom.rfind('@') + 1));
   const int code = Lance(arguments);
-  std::string obtenu = (fichier ? Lit(dossier / "out.rou") : "") + Lit(dossier / "sortie") + Lit(dossier / "erreurs");
+  std::string obtenu =
+      (fichier ? LitTout(dossier / "out.rou") : "") + LitTout(dossier / "sortie") + LitTout(dossier / "erreurs");
   if (code != 0) obtenu += "(code " + std::to_string(code) + ")\n";
-
   fs::path attendu = c.Routine;
-  attendu.replace_extension(".attendu");
-  if (std::getenv("TRAJ_REGENERE")) {
-    Ecrit(attendu, obtenu);
-    GTEST_SKIP() << attendu << " rewritten";
-  }
-  ASSERT_TRUE(fs::exists(attendu)) << attendu << " missing: TRAJ_REGENERE=1 writes it";
-  if (Lit(attendu) != obtenu) {
-    Ecrit(dossier / "obtenu", obtenu);
-    std::string diff;
-    if (std::FILE* p = popen(("diff -u " + Cite(attendu.string()) + " " + Cite((dossier / "obtenu").string())).c_str(), "r")) {
-      for (int ch; (ch = std::fgetc(p)) != EOF;) diff += static_cast<char>(ch);
-      pclose(p);
-    }
-    ADD_FAILURE() << diff;
-  }
+  CompareAvecAttendu(obtenu, attendu.replace_extension(".attendu"), dossier / "obtenu");
   // What the companion saves, it reads back to the same bytes.
-  if (c.Commande == "resave" && code == 0) {
+  if (c.Commande == "resave" && code == 0 && !IsSkipped()) {
     Lance({"resave", (dossier / "out.rou").string(), (dossier / "encore.rou").string()});
-    EXPECT_EQ(Lit(dossier / "encore.rou"), Lit(dossier / "out.rou"));
+    EXPECT_EQ(LitTout(dossier / "encore.rou"), LitTout(dossier / "out.rou"));
   }
 }
 
