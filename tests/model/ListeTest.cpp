@@ -37,91 +37,68 @@ protected:
   }
 };
 
-TEST_F(ListeTest, EmptyListCursorRestsOnSentinels) {
-  TListe l;
-  EXPECT_EQ(l.Init(), nullptr);
-  EXPECT_TRUE(l.IsFin());
-  EXPECT_EQ(l.VaFin(), l.pDebut);
-  EXPECT_TRUE(l.IsDebut());
-  EXPECT_EQ(l.Precedent(), nullptr);
-  EXPECT_EQ(l.Premier(), nullptr);
-  EXPECT_EQ(l.Dernier(), nullptr);
-  EXPECT_EQ(l.pDebut->pPrecedent, nullptr);
-  EXPECT_EQ(l.pFin->pSuivant, nullptr);
-  EXPECT_EQ(l.pDebut->pSuivant, l.pFin);
-}
+TEST_F(ListeTest, CursorStepsOntoASentinelThenAnswersNull) {
+  TListe vide;
+  EXPECT_EQ(vide.Init(), nullptr);
+  EXPECT_TRUE(vide.IsFin());
+  EXPECT_EQ(vide.VaFin(), vide.pDebut);
+  EXPECT_EQ(vide.Precedent(), nullptr);
+  EXPECT_EQ(vide.Premier(), nullptr);
+  EXPECT_EQ(vide.Dernier(), nullptr);
 
-TEST_F(ListeTest, SuivantOnLastReturnsTailSentinelThenNull) {
   TListe l;
   auto n = Remplit(l, 2);
   ASSERT_TRUE(l.Existe(n[1]));
-  TNoeud* apres = l.Suivant();
-  EXPECT_EQ(apres, l.pFin);  // not null: loops must test IsFin()
-  EXPECT_TRUE(l.IsFin());
+  EXPECT_EQ(l.Suivant(), l.pFin);  // not null: loops must test IsFin()
   EXPECT_EQ(l.Suivant(), nullptr);
   EXPECT_TRUE(l.IsFin());
+  l.Init();
+  EXPECT_EQ(l.Precedent(), l.pDebut);
+  EXPECT_EQ(l.Precedent(), nullptr);
+  EXPECT_EQ(l.Suivant(), n[0]);
 
-  EXPECT_EQ(l.Suivant(n[1]), nullptr);  // the node form answers null on the last
+  // The node forms answer null at the ends, and on a node of another list.
+  EXPECT_EQ(l.Suivant(n[1]), nullptr);
   EXPECT_EQ(l.Suivant(n[0]), n[1]);
   EXPECT_EQ(l.Precedent(n[0]), nullptr);
-  EXPECT_TRUE(l.IsDebut());
   EXPECT_EQ(l.Precedent(n[1]), n[0]);
-
   Noeud etranger(9);
   EXPECT_EQ(l.Suivant(&etranger), nullptr);
   EXPECT_TRUE(l.IsFin());  // Existe leaves the cursor on Fin when it finds nothing
 }
 
-TEST_F(ListeTest, PrecedentOnFirstReturnsHeadSentinel) {
-  TListe l;
-  auto n = Remplit(l, 2);
-  l.Init();
-  EXPECT_EQ(l.Precedent(), l.pDebut);
-  EXPECT_EQ(l.Precedent(), nullptr);
-  EXPECT_EQ(l.Suivant(), n[0]);
-}
-
-TEST_F(ListeTest, SupprimeStepsCursorBackSoLoopsVisitEveryNode) {
+TEST_F(ListeTest, SupprimeStepsTheCursorBackSoLoopsVisitEveryNode) {
   TListe l;
   auto n = Remplit(l, 5);
-  // Remove every even node in a cursor loop: the cursor steps back on each removal, so the
-  // Suivant() that follows lands on the node after the removed one.
+  // Remove every even node in a cursor loop: the Suivant() after each removal lands on the
+  // node after the removed one.
   std::vector<int> vus;
   for (TNoeud* p = l.Init(); !l.IsFin(); p = l.Suivant()) {
-    vus.push_back(static_cast<Noeud*>(p)->id);
-    if (static_cast<Noeud*>(p)->id % 2 == 0) l.Supprime();
+    const int id = static_cast<Noeud*>(p)->id;
+    vus.push_back(id);
+    if (id % 2 == 0) l.Supprime();
+    if (id == 0) {
+      EXPECT_TRUE(l.IsDebut());  // the first removed: the cursor on the head sentinel
+    }
   }
   EXPECT_EQ(vus, (std::vector<int>{0, 1, 2, 3, 4}));
   EXPECT_EQ(Ids(l), (std::vector<int>{1, 3}));
   EXPECT_EQ(l.nbNoeud(), 2);
   EXPECT_EQ(detruits, 3);
-}
-
-TEST_F(ListeTest, SupprimeFirstLeavesCursorOnHead) {
-  TListe l;
-  auto n = Remplit(l, 3);
-  l.Init();
-  l.Supprime();
-  EXPECT_TRUE(l.IsDebut());
-  EXPECT_EQ(l.Suivant(), n[1]);
-  EXPECT_EQ(l.Premier(), n[1]);
   EXPECT_TRUE(n[1]->IsPremier());
   EXPECT_EQ(n[1]->GetPrecedent(), nullptr);
-}
 
-TEST_F(ListeTest, SupprimeOnSentinelsOrForeignNodeDoesNothing) {
-  TListe l;
-  Remplit(l, 2);
+  // On a sentinel, or given a node of another list, it removes nothing.
   l.VaFin();
-  l.Suivant();  // on Fin
+  l.Suivant();
   l.Supprime();
   l.Init();
-  l.Precedent();  // on Debut
+  l.Precedent();
   l.Supprime();
   Noeud etranger(7);
   l.Supprime(&etranger);
   EXPECT_EQ(l.nbNoeud(), 2);
-  EXPECT_EQ(detruits, 0);
+  EXPECT_EQ(detruits, 3);
 }
 
 TEST_F(ListeTest, InsertionsPlaceNodesAndOwnThem) {
@@ -150,57 +127,44 @@ TEST_F(ListeTest, InsertionsPlaceNodesAndOwnThem) {
   EXPECT_EQ(detruits, 7);  // the list destroys what it holds, through the virtual destructor
 }
 
-TEST_F(ListeTest, NonCursorFamilyLeavesCursorAlone) {
-  TListe l;
-  auto n = Remplit(l, 4);
-  l.Existe(n[2]);
-  EXPECT_EQ(l.GetPt(0), n[0]);
-  EXPECT_EQ(l.GetPt(3), n[3]);
-  EXPECT_EQ(l.GetPt(4), nullptr);
-  EXPECT_EQ(l.GetPt(-1), nullptr);
-  EXPECT_EQ(l.GetIndex(n[3]), 3);
-  EXPECT_EQ(l.Init2(), n[0]);
-  EXPECT_EQ(l.VaFin2(), n[3]);
-  EXPECT_TRUE(l.IsPremier(n[0]));
-  EXPECT_TRUE(l.IsDernier(n[3]));
-  EXPECT_FALSE(l.IsDernier(n[2]));
-  EXPECT_TRUE(l.IsFin(l.pFin));
-  EXPECT_TRUE(l.IsDebut(l.pDebut));
-  EXPECT_EQ(l.GetNoeudCourant(), n[2]);
-
-  TListe vide;
-  EXPECT_FALSE(vide.IsPremier(nullptr));
-  EXPECT_FALSE(vide.IsDernier(nullptr));
-  EXPECT_FALSE(vide.IsPremier(vide.pFin));
-  EXPECT_EQ(vide.GetPt(0), nullptr);
-}
-
-TEST_F(ListeTest, GetIndexCacheAnswersStaleIndexOfForeignNode) {
+TEST_F(ListeTest, IndexesAndTheCacheThatAnswersAStaleIndexOfAForeignNode) {
   TListe a;
   TListe b;
   auto na = Remplit(a, 3);
   auto nb = Remplit(b, 8);
+  a.Existe(na[2]);
+  EXPECT_EQ(a.GetPt(0), na[0]);
+  EXPECT_EQ(a.GetPt(2), na[2]);
+  EXPECT_EQ(a.GetPt(3), nullptr);
+  EXPECT_EQ(a.GetPt(-1), nullptr);
+  EXPECT_EQ(a.Init2(), na[0]);
+  EXPECT_EQ(a.VaFin2(), na[2]);
+  EXPECT_EQ(a.GetNoeudCourant(), na[2]);  // none of these moves the cursor
+  EXPECT_FALSE(b.IsDernier(nb[6]));
+  EXPECT_TRUE(b.IsDernier(nb[7]));
+
   EXPECT_EQ(b.GetIndex(nb[7]), 7);
   EXPECT_EQ(a.GetIndex(na[1]), 1);
   ASSERT_TRUE(a.IndexValide);
-  // With the cache valid, a node of another list answers its own stale Index.
-  EXPECT_EQ(a.GetIndex(nb[7]), 7);
-
+  EXPECT_EQ(a.GetIndex(nb[7]), 7);  // with the cache valid, a foreign node's own stale Index
   a.Supprime(na[0]);
   EXPECT_FALSE(a.IndexValide);
   EXPECT_EQ(a.GetIndex(nb[7]), -1);  // a real walk now
   EXPECT_EQ(a.GetIndex(na[2]), 1);
-
   TListe vide;
   vide.IndexValide = false;
   EXPECT_EQ(vide.GetIndex(na[2]), -1);
-  EXPECT_FALSE(vide.IndexValide);
+  EXPECT_FALSE(vide.IsPremier(nullptr));
+  EXPECT_FALSE(vide.IsDernier(nullptr));
 }
 
-TEST_F(ListeTest, InsereListeSplicesAndEmptiesSource) {
+TEST_F(ListeTest, InsereListeSplicesAndEmptiesTheSource) {
   TListe cible;
   TListe source;
   auto c = Remplit(cible, 3);
+  cible.GetIndex(c[0]);
+  EXPECT_FALSE(cible.InsereListe(source, nullptr));  // nothing to move: the cache stays
+  EXPECT_TRUE(cible.IndexValide);
   Remplit(source, 2);
   for (TNoeud* p = source.Premier(); p; p = p->GetSuivant()) static_cast<Noeud*>(p)->id += 10;
 
@@ -218,28 +182,13 @@ TEST_F(ListeTest, InsereListeSplicesAndEmptiesSource) {
   EXPECT_EQ(Ids(cible), (std::vector<int>{0, 10, 11, 1, 2, 0}));
   EXPECT_EQ(cible.GetIndex(cible.Dernier()), 5);
   EXPECT_EQ(detruits, 0);  // nothing destroyed by the move
-}
 
-TEST_F(ListeTest, InsereListeOfEmptyListChangesNothing) {
-  TListe cible;
-  TListe vide;
-  auto c = Remplit(cible, 2);
-  cible.GetIndex(c[0]);
-  ASSERT_TRUE(cible.IndexValide);
-  EXPECT_FALSE(cible.InsereListe(vide, nullptr));
-  EXPECT_TRUE(cible.IndexValide);
-  EXPECT_EQ(cible.nbNoeud(), 2);
-}
-
-TEST_F(ListeTest, VideDestroysAllAndLeavesAUsableList) {
-  TListe l;
-  Remplit(l, 4);
-  l.Vide();
-  EXPECT_EQ(detruits, 4);
-  EXPECT_TRUE(l.IsVide());
-  EXPECT_EQ(l.Init(), nullptr);
-  Remplit(l, 1);
-  EXPECT_EQ(l.nbNoeud(), 1);
+  cible.Vide();
+  EXPECT_EQ(detruits, 6);
+  EXPECT_TRUE(cible.IsVide());
+  EXPECT_EQ(cible.Init(), nullptr);
+  Remplit(cible, 1);
+  EXPECT_EQ(cible.nbNoeud(), 1);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 // A scratch folder for tests that read and write files, made the current directory while the
 // test runs, since figure files are looked up by their bare name.
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -21,8 +22,10 @@ protected:
     // Named after the test and the process: the test runner starts several at once, and two
     // suites may hold tests of the same name.
     const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-    dossier = std::filesystem::temp_directory_path() / ("trajectoires-" + std::string(test->test_suite_name()) + "-" +
-                                                        test->name() + "-" + std::to_string(getpid()));
+    std::string nom =
+        "trajectoires-" + std::string(test->test_suite_name()) + "-" + test->name() + "-" + std::to_string(getpid());
+    std::replace(nom.begin(), nom.end(), '/', '_');  // parameterised tests have slashes in their names
+    dossier = std::filesystem::temp_directory_path() / nom;
     std::filesystem::remove_all(dossier);
     std::filesystem::create_directories(dossier);
     std::filesystem::current_path(dossier);

@@ -61,7 +61,7 @@ struct TSortie {
 
 class RenderCommandTest : public FichiersTest {
 protected:
-  static std::string Routine() { return "'" + std::string(TRAJ_TEST_DATA) + "/routine_courte.rou'"; }
+  static std::string Routine() { return "'" + std::string(TRAJ_TEST_DATA) + "/resave/routine_courte.rou'"; }
 
   // Runs the command without DISPLAY; its exit code, or -1 when it did not exit. What it
   // says goes to sortie.txt.

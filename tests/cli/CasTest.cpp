@@ -1,0 +1,88 @@
+// The companion run on every case of tests/data/resave, solve, keys and sample: NAME.rou,
+// with the figures it names beside it, run from its own folder, must give NAME.attendu byte
+// for byte: the OUT file for resave and solve, then standard output, then standard error,
+// then "(code N)" when the exit status is not 0. A sample case takes its time T from its name,
+// NAME@T.rou. TRAJ_REGENERE=1 rewrites the expected files (tests/data/README.md).
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "support/Attendu.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct TCas {
+  std::string Commande;
+  fs::path Routine;
+};
+
+void PrintTo(const TCas& c, std::ostream* os) { *os << c.Commande << " " << c.Routine.string(); }
+
+std::vector<TCas> Cas() {
+  std::vector<TCas> cas;
+  for (const char* commande : {"resave", "solve", "keys", "sample"}) {
+    std::vector<fs::path> routines;
+    for (const auto& e : fs::directory_iterator(fs::path(TRAJ_CAS) / commande))
+      if (e.path().extension() == ".rou") routines.push_back(e.path());
+    std::sort(routines.begin(), routines.end());
+    for (const fs::path& r : routines) cas.push_back({commande, r});
+  }
+  return cas;
+}
+
+class CasTest : public ::testing::TestWithParam<TCas> {
+protected:
+  void SetUp() override {
+    fs::remove_all(dossier);
+    fs::create_directories(dossier);
+  }
+  void TearDown() override { fs::remove_all(dossier); }
+
+  // Runs the companion from the case's folder; its exit status, -1 when it did not exit.
+  int Lance(const std::vector<std::string>& arguments) {
+    std::string commande = "cd " + Cite(GetParam().Routine.parent_path().string()) + " && exec " + Cite(TRAJ_CLI);
+    for (const std::string& a : arguments) commande += " " + Cite(a);
+    commande += " >" + Cite((dossier / "sortie").string()) + " 2>" + Cite((dossier / "erreurs").string());
+    const int statut = std::system(commande.c_str());
+    return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
+  }
+
+  const fs::path dossier = fs::temp_directory_path() / ("trajectoires-cas-" + std::to_string(getpid()));
+};
+
+TEST_P(CasTest, GivesItsExpectedFile) {
+  const TCas& c = GetParam();
+  const std::string nom = c.Routine.stem().string();
+  const bool fichier = c.Commande == "resave" || c.Commande == "solve";
+  std::vector<std::string> arguments = {c.Commande, c.Routine.filename().string()};
+  if (fichier) arguments.push_back((dossier / "out.rou").string());
+  if (c.Commande == "sample") arguments.push_back(nom.substr(nom.rfind('@') + 1));
+  const int code = Lance(arguments);
+  std::string obtenu =
+      (fichier ? LitTout(dossier / "out.rou") : "") + LitTout(dossier / "sortie") + LitTout(dossier / "erreurs");
+  if (code != 0) obtenu += "(code " + std::to_string(code) + ")\n";
+  fs::path attendu = c.Routine;
+  CompareAvecAttendu(obtenu, attendu.replace_extension(".attendu"), dossier / "obtenu");
+  // What the companion saves, it reads back to the same bytes.
+  if (c.Commande == "resave" && code == 0 && !IsSkipped()) {
+    Lance({"resave", (dossier / "out.rou").string(), (dossier / "encore.rou").string()});
+    EXPECT_EQ(LitTout(dossier / "encore.rou"), LitTout(dossier / "out.rou"));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Cli, CasTest, ::testing::ValuesIn(Cas()), [](const auto& info) {
+  std::string nom = info.param.Commande + "_" + info.param.Routine.stem().string();
+  for (char& ch : nom)
+    if (!std::isalnum(static_cast<unsigned char>(ch))) ch = '_';
+  return nom;
+});
+
+}  // namespace
