@@ -76,3 +76,48 @@ public:
   // Marks a device rectangle to be erased to the background and repainted.
   virtual void InvalidateRect(const TRect& r, bool effacer = true) = 0;
 };
+
+// The state of a new surface: device mode, black pen, white brush, no font, black text on an
+// opaque white background, left and top alignment.
+struct TEtatDC {
+  TMapMode Mode = TMapMode::Texte;
+  TSize ExtFenetre{1, 1};
+  TSize ExtVue{1, 1};
+  TPoint OrigineFenetre;
+  TPen Plume;
+  TBrush Brosse;
+  TFont Police{"", 0, 0, 0};
+  TColor CouleurTexte = TColor::Black;
+  TColor CouleurFond = TColor::White;
+  TBkMode ModeFond = TBkMode::Opaque;
+  unsigned Alignement = TA_LEFT | TA_TOP;
+};
+
+// A surface that keeps what the selections set: the mapping, the pen, the brush, the font and
+// the text's colours and alignment. The surfaces differ only in what they do with a primitive.
+class TDCEtat : public TDC, public TEtatDC {
+public:
+  void SetMapMode(TMapMode mode) override { Mode = mode; }
+  void SetWindowExt(const TSize& ext) override { ExtFenetre = ext; }
+  void SetViewportExt(const TSize& ext) override { ExtVue = ext; }
+  void SetWindowOrg(const TPoint& origine) override { OrigineFenetre = origine; }
+  TSize GetWindowExt() const override { return ExtFenetre; }
+  TSize GetViewportExt() const override { return ExtVue; }
+
+  void SelectObject(const TPen& pen) override { Plume = pen; }
+  void SelectObject(const TBrush& brush) override { Brosse = brush; }
+  void SelectObject(const TFont& font) override { Police = font; }
+  void SelectStockObject(TStockObject objet) override {
+    if (objet == TStockObject::BlackPen)
+      Plume = TPen{};
+    else
+      Brosse = TBrush{};
+  }
+
+  void SetTextAlign(unsigned flags) override { Alignement = flags; }
+  void SetTextColor(TColor couleur) override { CouleurTexte = couleur; }
+  void SetBkColor(TColor couleur) override { CouleurFond = couleur; }
+  void SetBkMode(TBkMode mode) override { ModeFond = mode; }
+
+  void ReinitialiseEtat() { static_cast<TEtatDC&>(*this) = TEtatDC(); }
+};

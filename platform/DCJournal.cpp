@@ -34,13 +34,6 @@ void Ajoute(std::string& ligne, const std::string& texte) {
 }
 }  // namespace
 
-void TDCJournal::SelectStockObject(TStockObject objet) {
-  if (objet == TStockObject::BlackPen)
-    Plume = TPen{};
-  else
-    Brosse = TBrush{};
-}
-
 std::string TDCJournal::Debut(const char* primitive) const {
   std::string ligne(Mode == TMapMode::Anisotrope ? "L " : "D ");
   ligne += primitive;

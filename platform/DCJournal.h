@@ -20,7 +20,7 @@
 
 #include "platform/DC.h"
 
-class TDCJournal : public TDC {
+class TDCJournal : public TDCEtat {
 public:
   struct TInvalidation {
     TRect Rect;
@@ -28,17 +28,7 @@ public:
     friend bool operator==(const TInvalidation&, const TInvalidation&) = default;
   };
 
-  void SetMapMode(TMapMode mode) override { Mode = mode; }
-  void SetWindowExt(const TSize& ext) override { ExtFenetre = ext; }
-  void SetViewportExt(const TSize& ext) override { ExtVue = ext; }
-  void SetWindowOrg(const TPoint& origine) override { OrigineFenetre = origine; }
-  TSize GetWindowExt() const override { return ExtFenetre; }
-  TSize GetViewportExt() const override { return ExtVue; }
 
-  void SelectObject(const TPen& pen) override { Plume = pen; }
-  void SelectObject(const TBrush& brush) override { Brosse = brush; }
-  void SelectObject(const TFont& font) override { Police = font; }
-  void SelectStockObject(TStockObject objet) override;
 
   void MoveToEx(const TPoint& p) override { Position = p; }
   void LineTo(const TPoint& p) override;
@@ -48,10 +38,6 @@ public:
   bool Arc(const TRect& r, const TPoint& debut, const TPoint& fin) override;
   void SetPixel(const TPoint& p, TColor couleur) override;
 
-  void SetTextAlign(unsigned flags) override { Alignement = flags; }
-  void SetTextColor(TColor couleur) override { CouleurTexte = couleur; }
-  void SetBkColor(TColor couleur) override { CouleurFond = couleur; }
-  void SetBkMode(TBkMode mode) override { ModeFond = mode; }
   void TextOut(const TPoint& p, const std::string& texte) override;
 
   void InvalidateRect(const TRect& r, bool effacer = true) override { Invalidations.push_back({r, effacer}); }
@@ -62,20 +48,7 @@ public:
   std::vector<std::string> Lignes;
   std::vector<TInvalidation> Invalidations;
 
-  // The state, as a surface starts: device mode, black pen, white brush, no font, black
-  // text on an opaque white background, left and top alignment, position (0, 0).
-  TMapMode Mode = TMapMode::Texte;
-  TSize ExtFenetre{1, 1};
-  TSize ExtVue{1, 1};
-  TPoint OrigineFenetre;
-  TPen Plume;
-  TBrush Brosse;
-  TFont Police{"", 0, 0, 0};
-  TColor CouleurTexte = TColor::Black;
-  TColor CouleurFond = TColor::White;
-  TBkMode ModeFond = TBkMode::Opaque;
-  unsigned Alignement = 0;
-  TPoint Position;
+  TPoint Position;  // the current position, as given
 
 private:
   // The mode letter and the primitive's name, to which its fields are added.

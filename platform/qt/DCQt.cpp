@@ -139,32 +139,15 @@ TDCQt::TDCQt(QPainter* painter)
 }
 
 void TDCQt::Reinitialise() {
-  mode_ = TMapMode::Texte;
-  extFenetre_ = TSize{1, 1};
-  extVue_ = TSize{1, 1};
-  orgFenetre_ = TPoint();
-  pen_ = TPen();
-  brush_ = TBrush();
-  font_ = TFont();
+  ReinitialiseEtat();
   position_ = QPoint();
-  alignement_ = TA_LEFT | TA_TOP;
-  couleurTexte_ = TColor::Black;
-  couleurFond_ = TColor::White;
-  modeFond_ = TBkMode::Opaque;
-}
-
-void TDCQt::SelectStockObject(TStockObject objet) {
-  switch (objet) {
-    case TStockObject::BlackPen: pen_ = TPen(); break;
-    case TStockObject::WhiteBrush: brush_ = TBrush(); break;
-  }
 }
 
 QPoint TDCQt::VersPeripherique(const TPoint& p) const {
-  if (mode_ == TMapMode::Texte || extFenetre_.cx == 0 || extFenetre_.cy == 0)
+  if (Mode == TMapMode::Texte || ExtFenetre.cx == 0 || ExtFenetre.cy == 0)
     return QPoint(Coordonnee(p.x), Coordonnee(p.y));
-  const double x = (static_cast<double>(p.x) - orgFenetre_.x) * extVue_.cx / extFenetre_.cx;
-  const double y = (static_cast<double>(p.y) - orgFenetre_.y) * extVue_.cy / extFenetre_.cy;
+  const double x = (static_cast<double>(p.x) - OrigineFenetre.x) * ExtVue.cx / ExtFenetre.cx;
+  const double y = (static_cast<double>(p.y) - OrigineFenetre.y) * ExtVue.cy / ExtFenetre.cy;
   return QPoint(Coordonnee(x), Coordonnee(y));
 }
 
@@ -176,38 +159,38 @@ QRect TDCQt::VersPeripherique(const TRect& r) const {
 
 double TDCQt::HauteurPeripherique(int hauteur) const {
   double h = std::abs(hauteur);
-  if (mode_ == TMapMode::Anisotrope && extFenetre_.cy != 0)
-    h *= std::abs(static_cast<double>(extVue_.cy) / extFenetre_.cy);
+  if (Mode == TMapMode::Anisotrope && ExtFenetre.cy != 0)
+    h *= std::abs(static_cast<double>(ExtVue.cy) / ExtFenetre.cy);
   return h;
 }
 
 QFont TDCQt::PoliceQt() const {
-  const QString face = FacePolice(font_.Nom.empty() ? "MS Sans Serif" : font_.Nom);
+  const QString face = FacePolice(Police.Nom.empty() ? "MS Sans Serif" : Police.Nom);
   QFont f(face);
   // A negative height is the em itself; a positive one, the whole cell; none, a cell of 16
   // pixels whatever the mode.
-  double em = font_.Hauteur == 0 ? 16 : HauteurPeripherique(font_.Hauteur);
-  if (font_.Hauteur >= 0) em /= CelluleParEm(face);
+  double em = Police.Hauteur == 0 ? 16 : HauteurPeripherique(Police.Hauteur);
+  if (Police.Hauteur >= 0) em /= CelluleParEm(face);
   f.setPixelSize(std::max(1, static_cast<int>(std::lround(em))));
-  f.setWeight(static_cast<QFont::Weight>(std::clamp(font_.Graisse == 0 ? 400 : font_.Graisse, 1, 1000)));
+  f.setWeight(static_cast<QFont::Weight>(std::clamp(Police.Graisse == 0 ? 400 : Police.Graisse, 1, 1000)));
   return f;
 }
 
 QPen TDCQt::PenQt() const {
-  QPen pen(CouleurQt(pen_.Couleur));
-  if (pen_.Largeur <= 0) {
+  QPen pen(CouleurQt(Plume.Couleur));
+  if (Plume.Largeur <= 0) {
     // Cosmetic: one device pixel whatever the mapping; a flat cap leaves the last pixel out.
     pen.setWidth(0);
     pen.setCapStyle(Qt::FlatCap);
   } else {
-    double largeur = pen_.Largeur;
-    if (mode_ == TMapMode::Anisotrope && extFenetre_.cx != 0)
-      largeur *= std::abs(static_cast<double>(extVue_.cx) / extFenetre_.cx);
+    double largeur = Plume.Largeur;
+    if (Mode == TMapMode::Anisotrope && ExtFenetre.cx != 0)
+      largeur *= std::abs(static_cast<double>(ExtVue.cx) / ExtFenetre.cx);
     pen.setWidthF(std::max(1.0, largeur));
     pen.setCapStyle(Qt::RoundCap);
     pen.setJoinStyle(Qt::RoundJoin);
   }
-  if (pen_.Trait == TPen::Style::Pointille) pen.setStyle(Qt::DotLine);
+  if (Plume.Trait == TPen::Style::Pointille) pen.setStyle(Qt::DotLine);
   return pen;
 }
 
@@ -235,7 +218,7 @@ void TDCQt::LineTo(const TPoint& p) {
 
 void TDCQt::Trace(const QPoint& a, const QPoint& b) {
   QPen pen = PenQt();
-  const bool trousOpaques = pen.style() != Qt::SolidLine && modeFond_ == TBkMode::Opaque;
+  const bool trousOpaques = pen.style() != Qt::SolidLine && ModeFond == TBkMode::Opaque;
   if (pen.isCosmetic() && pixels_) {
     // On pixels the line is laid out here: Qt's own line leaves out its right or lower end
     // whatever the direction, where the program's leaves out its last point.
@@ -244,14 +227,14 @@ void TDCQt::Trace(const QPoint& a, const QPoint& b) {
     PixelsLigne(a, b, QSize(painter_->device()->width(), painter_->device()->height()),
                 pen.style() != Qt::SolidLine, encre_, trous_);
     if (QImage* image = ImageDirecte()) {
-      if (trousOpaques) Remplit(*image, trous_, couleurFond_);
-      Remplit(*image, encre_, pen_.Couleur);
+      if (trousOpaques) Remplit(*image, trous_, CouleurFond);
+      Remplit(*image, encre_, Plume.Couleur);
       return;
     }
     // Runs of pixels filled as rectangles: far fewer calls than one point per pixel.
     painter_->setPen(Qt::NoPen);
     if (trousOpaques && !trous_.isEmpty()) {
-      painter_->setBrush(CouleurQt(couleurFond_));
+      painter_->setBrush(CouleurQt(CouleurFond));
       painter_->drawRects(trous_);
     }
     painter_->setBrush(pen.color());
@@ -262,7 +245,7 @@ void TDCQt::Trace(const QPoint& a, const QPoint& b) {
   if (trousOpaques) {
     QPen fond = pen;
     fond.setStyle(Qt::SolidLine);
-    fond.setColor(CouleurQt(couleurFond_));
+    fond.setColor(CouleurQt(CouleurFond));
     painter_->setPen(fond);
     painter_->drawLine(a, b);
   }
@@ -273,14 +256,14 @@ void TDCQt::Trace(const QPoint& a, const QPoint& b) {
 void TDCQt::Rectangle(const TRect& r) {
   if (!painter_) return;
   painter_->setPen(PenQt());
-  painter_->setBrush(CouleurQt(brush_.Couleur));
+  painter_->setBrush(CouleurQt(Brosse.Couleur));
   painter_->drawRect(Contour(VersPeripherique(r)));
 }
 
 void TDCQt::Ellipse(const TRect& r) {
   if (!painter_) return;
   painter_->setPen(PenQt());
-  painter_->setBrush(CouleurQt(brush_.Couleur));
+  painter_->setBrush(CouleurQt(Brosse.Couleur));
   painter_->drawEllipse(Contour(VersPeripherique(r)));
 }
 
@@ -290,7 +273,7 @@ void TDCQt::Polygon(const std::vector<TPoint>& points) {
   polygone.reserve(static_cast<qsizetype>(points.size()));
   for (const TPoint& p : points) polygone << VersPeripherique(p);
   painter_->setPen(PenQt());
-  painter_->setBrush(CouleurQt(brush_.Couleur));
+  painter_->setBrush(CouleurQt(Brosse.Couleur));
   painter_->drawPolygon(polygone, Qt::OddEvenFill);
 }
 
@@ -328,22 +311,22 @@ void TDCQt::TextOut(const TPoint& p, const std::string& texte) {
   const QPoint ancre = VersPeripherique(p);
   const double largeur = m.horizontalAdvance(t);
   double x = ancre.x();
-  switch (alignement_ & TA_CENTER) {
+  switch (Alignement & TA_CENTER) {
     case TA_RIGHT: x -= largeur; break;
     case TA_CENTER: x -= largeur / 2; break;
     default: break;
   }
   double ligneDeBase = ancre.y();
-  switch (alignement_ & TA_BASELINE) {
+  switch (Alignement & TA_BASELINE) {
     case TA_TOP: ligneDeBase += m.ascent(); break;
     case TA_BOTTOM: ligneDeBase -= m.descent(); break;
     default: break;
   }
-  if (modeFond_ == TBkMode::Opaque)
+  if (ModeFond == TBkMode::Opaque)
     painter_->fillRect(QRectF(x, ligneDeBase - m.ascent(), largeur, m.ascent() + m.descent()),
-                       CouleurQt(couleurFond_));
+                       CouleurQt(CouleurFond));
   painter_->setFont(police);
-  painter_->setPen(CouleurQt(couleurTexte_));
+  painter_->setPen(CouleurQt(CouleurTexte));
   painter_->drawText(QPointF(x, ligneDeBase), t);
 }
 

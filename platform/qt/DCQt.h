@@ -12,7 +12,7 @@
 
 #include "platform/DC.h"
 
-class TDCQt : public TDC {
+class TDCQt : public TDCEtat {
 public:
   // Draws through painter, which must stay active as long as the surface is used; null gives
   // a surface that maps and invalidates but draws nothing, as an event handler needs.
@@ -23,17 +23,7 @@ public:
   // each new page.
   void Reinitialise();
 
-  void SetMapMode(TMapMode mode) override { mode_ = mode; }
-  void SetWindowExt(const TSize& ext) override { extFenetre_ = ext; }
-  void SetViewportExt(const TSize& ext) override { extVue_ = ext; }
-  void SetWindowOrg(const TPoint& origine) override { orgFenetre_ = origine; }
-  TSize GetWindowExt() const override { return extFenetre_; }
-  TSize GetViewportExt() const override { return extVue_; }
 
-  void SelectObject(const TPen& pen) override { pen_ = pen; }
-  void SelectObject(const TBrush& brush) override { brush_ = brush; }
-  void SelectObject(const TFont& font) override { font_ = font; }
-  void SelectStockObject(TStockObject objet) override;
 
   void MoveToEx(const TPoint& p) override;
   void LineTo(const TPoint& p) override;
@@ -43,10 +33,6 @@ public:
   bool Arc(const TRect& r, const TPoint& debut, const TPoint& fin) override;
   void SetPixel(const TPoint& p, TColor couleur) override;
 
-  void SetTextAlign(unsigned flags) override { alignement_ = flags; }
-  void SetTextColor(TColor couleur) override { couleurTexte_ = couleur; }
-  void SetBkColor(TColor couleur) override { couleurFond_ = couleur; }
-  void SetBkMode(TBkMode mode) override { modeFond_ = mode; }
   void TextOut(const TPoint& p, const std::string& texte) override;
 
   // An image or a printer has nothing to repaint later.
@@ -72,18 +58,7 @@ private:
 
   QPainter* painter_;
   bool pixels_;  // the painter fills pixels (an image, a widget), rather than writing vectors
-  TMapMode mode_ = TMapMode::Texte;
-  TSize extFenetre_{1, 1};
-  TSize extVue_{1, 1};
-  TPoint orgFenetre_;
-  TPen pen_;
-  TBrush brush_;
-  TFont font_;
   QPoint position_;  // current position, device pixels
-  unsigned alignement_ = TA_LEFT | TA_TOP;
-  TColor couleurTexte_ = TColor::Black;
-  TColor couleurFond_ = TColor::White;
-  TBkMode modeFond_ = TBkMode::Opaque;
   QList<QRect> encre_, trous_;  // runs of pixels of the line being drawn, kept to spare allocations
 };
 
