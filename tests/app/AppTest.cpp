@@ -7,6 +7,7 @@
 #include "support/Doubles.h"
 #include "app/App.h"
 #include "editor/FenDessin.h"
+#include "platform/qt/editeur/QFeuille.h"
 #include "model/Document.h"
 
 #include <QAction>
@@ -82,6 +83,15 @@ TEST_F(AppTest, TheEditorThenThePlayerAreShownWithTheirCaptionsAndFrames) {
 
   EXPECT_TRUE(editeur->statusBar()->isVisible());
   EXPECT_EQ(editeur->Cadre().nbFeuilles, 2) << "the view must set up the spare sheet";
+
+  // The active sheet, the frame's width and half as high, draws its wind window.
+  QFeuille* feuille = editeur->Feuille();
+  AttendQue([&] { return feuille->height() == feuille->width() / 2; }, 2000);
+  EXPECT_EQ(feuille->width(), editeur->centralWidget()->width());
+  const QImage image = feuille->grab().toImage();  // a paint, which also sets the scales
+  const TPoint coin = feuille->Feuille()->LPtoDP(TPointf(-100, 0));
+  EXPECT_EQ(image.pixelColor(coin.x + 20, coin.y), QColor(Qt::black)) << "the ground line";
+  EXPECT_EQ(image.pixelColor(coin.x + 20, coin.y - 3), QColor(Qt::white)) << "the wind window";
 }
 
 TEST_F(AppTest, ClosingTheEditorAsksOnceAndCancelKeepsEverythingOpen) {
