@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "Attente.h"
 #include "platform/qt/QtDialogues.h"
 
 #include <QApplication>
@@ -10,20 +11,6 @@
 #include <functional>
 
 namespace {
-
-// Runs `geste` on the first modal dialog of type D to open, from inside its own event loop.
-template <class D>
-void QuandOuvert(std::function<void(D*)> geste) {
-  auto* sonde = new QTimer(qApp);
-  QObject::connect(sonde, &QTimer::timeout, sonde, [sonde, geste] {
-    if (auto* d = qobject_cast<D*>(QApplication::activeModalWidget())) {
-      sonde->stop();
-      sonde->deleteLater();
-      geste(d);
-    }
-  });
-  sonde->start(10);
-}
 
 struct BoiteVue {
   QString Titre, Texte;

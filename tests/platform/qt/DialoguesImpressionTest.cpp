@@ -10,24 +10,11 @@
 
 #include <functional>
 
+#include "app/Attente.h"
 #include "platform/Printer.h"
 #include "platform/qt/QtDialogues.h"
 
 namespace {
-
-// Runs geste on the first modal dialog of type D to open, from inside its own event loop.
-template <class D>
-void QuandOuvert(std::function<void(D*)> geste) {
-  auto* sonde = new QTimer(qApp);
-  QObject::connect(sonde, &QTimer::timeout, sonde, [sonde, geste] {
-    if (auto* d = qobject_cast<D*>(QApplication::activeModalWidget())) {
-      sonde->stop();
-      sonde->deleteLater();
-      geste(d);
-    }
-  });
-  sonde->start(10);
-}
 
 TDonneesImprimante EditeurVersPdf() {
   TDonneesImprimante d;
