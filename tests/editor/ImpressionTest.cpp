@@ -4,6 +4,10 @@
 // sheet takes on it; TRAJ_REGENERE=1 rewrites the expected files.
 #include <gtest/gtest.h>
 
+#include "support/Attendu.h"
+
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <deque>
@@ -258,12 +262,8 @@ TEST_P(ImpressionCas, EveryPageAsExpected) {
     peripherique.Taille = TSize{3508, 2480};
   }
   ASSERT_TRUE(Imprime(parPage));
-  const fs::path attendu = Dossier / (GetParam() + ".attendu");
-  if (const char* r = std::getenv("TRAJ_REGENERE"); r && std::string(r) == "1")
-    std::ofstream(attendu, std::ios::binary) << peripherique.Texte();
-  std::ostringstream texte;
-  texte << std::ifstream(attendu, std::ios::binary).rdbuf();
-  EXPECT_EQ(texte.str(), peripherique.Texte());
+  CompareAvecAttendu(peripherique.Texte(), Dossier / (GetParam() + ".attendu"),
+                     fs::temp_directory_path() / ("trajectoires-impression-" + std::to_string(getpid())));
 }
 
 INSTANTIATE_TEST_SUITE_P(Impression, ImpressionCas, ::testing::ValuesIn(Cas()),

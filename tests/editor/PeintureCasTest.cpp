@@ -4,10 +4,11 @@
 // wrote on standard error. TRAJ_REGENERE=1 rewrites the expected files from what is drawn.
 #include <gtest/gtest.h>
 
+#include "support/Attendu.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -20,21 +21,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path DOSSIER = fs::path(TRAJ_TEST_DATA) / "paint";
-
-std::string Lit(const fs::path& chemin) {
-  std::ifstream f(chemin, std::ios::binary);
-  std::ostringstream texte;
-  texte << f.rdbuf();
-  return texte.str();
-}
-
-void Ecrit(const fs::path& chemin, const std::string& texte) { std::ofstream(chemin, std::ios::binary) << texte; }
-
-std::string Guillemets(const std::string& s) {
-  std::string r = "'";
-  for (char c : s) r += c == '\'' ? std::string("'\\''") : std::string(1, c);
-  return r + "'";
-}
 
 std::vector<std::string> Cas() {
   std::vector<std::string> noms;
@@ -51,18 +37,18 @@ std::string Peins(const std::string& nom, const fs::path& brouillon) {
   const fs::path erreurs = brouillon / "erreurs.txt";
   fs::remove(sortie);
   // IN and SHEET, then OUT, then the options.
-  std::istringstream args(Lit(DOSSIER / (nom + ".args")));
+  std::istringstream args(LitTout(DOSSIER / (nom + ".args")));
   std::vector<std::string> mots;
   for (std::string m; args >> m;) mots.push_back(m);
   if (mots.size() < 2) return nom + ".args doit commencer par IN et SHEET\n";
   mots.insert(mots.begin() + 2, sortie.string());
-  std::string commande = "cd " + Guillemets(DOSSIER.string()) + " && " + Guillemets(TRAJ_CLI) + " paint";
-  for (const std::string& m : mots) commande += " " + Guillemets(m);
-  commande += " 2>" + Guillemets(erreurs.string());
+  std::string commande = "cd " + Cite(DOSSIER.string()) + " && " + Cite(TRAJ_CLI) + " paint";
+  for (const std::string& m : mots) commande += " " + Cite(m);
+  commande += " 2>" + Cite(erreurs.string());
   const int statut = std::system(commande.c_str());
   const int code = WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
-  std::string obtenu = fs::exists(sortie) ? Lit(sortie) : "";
-  const std::string err = Lit(erreurs);
+  std::string obtenu = fs::exists(sortie) ? LitTout(sortie) : "";
+  const std::string err = LitTout(erreurs);
   if (code != 0 || !err.empty()) obtenu += "--- code " + std::to_string(code) + "\n" + err;
   return obtenu;
 }
@@ -73,20 +59,11 @@ TEST(PeintureCas, ChaqueJournalEstLAttendu) {
   const fs::path brouillon = fs::temp_directory_path() / ("trajectoires-peinture-" + std::to_string(getpid()));
   fs::remove_all(brouillon);
   fs::create_directories(brouillon);
-  const char* regenere = std::getenv("TRAJ_REGENERE");
   const std::vector<std::string> cas = Cas();
   EXPECT_FALSE(cas.empty());
   for (const std::string& nom : cas) {
-    const std::string obtenu = Peins(nom, brouillon);
-    const fs::path attendu = DOSSIER / (nom + ".log");
-    if (regenere && std::string(regenere) == "1") Ecrit(attendu, obtenu);
-    if (fs::exists(attendu) && Lit(attendu) == obtenu) continue;
-    const fs::path copie = brouillon / "obtenu.log";
-    Ecrit(copie, obtenu);
-    const std::string diff = "diff -u " + Guillemets(attendu.string()) + " " + Guillemets(copie.string()) + " > " +
-                             Guillemets((brouillon / "diff").string());
-    [[maybe_unused]] const int d = std::system(diff.c_str());
-    ADD_FAILURE() << "le journal de " << nom << " diffère de l'attendu :\n" << Lit(brouillon / "diff");
+    SCOPED_TRACE("cas " + nom);
+    CompareAvecAttendu(Peins(nom, brouillon), DOSSIER / (nom + ".log"), brouillon / "obtenu.log");
   }
   fs::remove_all(brouillon);
 }
