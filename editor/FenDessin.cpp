@@ -2,6 +2,9 @@
 
 #include <cstring>
 
+#include "editor/DCClient.h"
+#include "editor/FenCadre2.h"
+
 float TFenDessin::EchIE = 1.0f;
 int TFenDessin::Fonction = FONCTION_MODIFICATION;
 int TFenDessin::Etape = 0;
@@ -15,6 +18,8 @@ bool TFenDessin::MAJPermanente = false;
 bool TFenDessin::MAJUp = true;
 TImpression TFenDessin::Imp;
 std::unique_ptr<TImprimante> TFenDessin::Printer;
+TPoint TFenDessin::PointClic;
+TPoint TFenDessin::DernierePosition;
 
 void TFenDessin::ReinitialiseStatiques() {
   EchIE = 1.0f;
@@ -30,6 +35,8 @@ void TFenDessin::ReinitialiseStatiques() {
   MAJUp = true;
   Imp = TImpression();
   Printer.reset();
+  PointClic = TPoint();
+  DernierePosition = TPoint();
 }
 
 TFenDessin::TFenDessin(TFenCadre2* cadre, TFenListe* liste, int num)
@@ -53,4 +60,8 @@ void TFenDessin::MessageErreur(char* texte) {
 void TFenDessin::MessageErreur(const std::string& texte) {
   Dialogues().MessageStatut("!!!! " + texte.substr(0, TAILLE_MESSAGE_ERREUR));
   Dialogues().MessageBeep(-1);
+}
+
+void TDCClient::InvalidateRect(const TRect& r, bool) {
+  if (Feuille.pFenCadre) Feuille.pFenCadre->Invalide(&Feuille, r);
 }

@@ -18,13 +18,59 @@ class TFenListe;
 class TListeCV;
 
 inline constexpr int FONCTION_MODIFICATION = 300;
+inline constexpr int FONCTION_AJOUT_SYNCHRO = 330;
+inline constexpr int FONCTION_SUPPR_SYNCHRO = 331;
 inline constexpr int TAILLE_MESSAGE_ERREUR = 160;
+// The state bit of a mouse event that extends a selection, and the keys a sheet answers.
+inline constexpr unsigned MK_SHIFT = 0x0004;
+inline constexpr unsigned CAR_ECHAP = 27;
+inline constexpr unsigned VK_DELETE = 0x2E;
+
+// The five values of Fonction that draw an element click by click.
+constexpr bool EstFonctionDessin(int f) { return f == 301 || f == 305 || f == 309 || f == 311 || f == 312; }
 
 class TFenDessin {
 public:
   TFenDessin(TFenCadre2* cadre, TFenListe* liste, int num);
 
   void SetNum(int num) { Num = num; }
+
+  // The mouse and the keyboard, in device pixels of the sheet (Souris.cpp).
+  void EvMouseMove(unsigned flags, const TPoint& p);
+  void EvLButtonDown(unsigned flags, const TPoint& p);
+  void EvLButtonUp(unsigned flags, const TPoint& p);
+  void EvRButtonDown(unsigned flags, const TPoint& p);
+  void EvChar(unsigned key, unsigned repetitions, unsigned flags);
+  void EvKeyDown(unsigned key, unsigned repetitions, unsigned flags);
+  // Builds the element of the drawing tool at the logical point p, after pEltSel; nothing
+  // when no drawing tool is chosen.
+  void CreerElt(const TPoint& p);
+  void ModifElt(TDC& dc, TElt* e, const TPointf& p);
+  bool ClicSelection(TDC& dc, const TPoint& p);
+  bool ModifieSelection(TDC& dc, unsigned flags, TElt* e);
+  bool EtendSelection(TDC& dc, TElt* e);
+
+  // The menu's commands (Commandes.cpp).
+  void Trt_Menu(unsigned id);
+  void Echap();
+  void Suppr();
+  void Suppr(TDC& dc, TElt* e);
+  // The property bars of this sheet's elements.
+  void OpenBD();
+  void CloseBD();
+  // Rebuilds the tab labels from this sheet on, from the times of the first kite.
+  void MetAJourOnglets();
+  // The undo copy of this sheet's elements (Annulation.cpp).
+  void MAJUnDo();
+
+  // The file commands (Fichiers.cpp).
+  void Ouvrir();
+  // Opens chemin as "&Ouvrir" does once the dialog has answered.
+  void Ouvrir(const std::string& chemin);
+  void Enregistrer();
+  void EnregistrerSous();
+  void EnregistrerSelection();
+  void OuvrirMusique();
   // The client area of the window, in device pixels, as the view last laid it out.
   void SetTailleClient(int largeur, int hauteur) { TailleClient = TSize{largeur, hauteur}; }
 
@@ -71,6 +117,8 @@ public:
   bool PreleveSynchro();
   // Cuts e from its father; e stays a time anchor at the time it had.
   void SupprSynchro(TElt* e);
+  // Undoes every synchronisation of e, as a father and as a child, before e goes.
+  static void Detache(TElt* e);
 
   TFenCadre2* pFenCadre;
   TFenListe* pFenListe;
@@ -98,5 +146,28 @@ public:
   // Made by the first sheet, with A4 paper and the editor's margins; Imp prints through it.
   static std::unique_ptr<TImprimante> Printer;
 
+  static TPoint PointClic;  // previous position of a drag, whole logical units
+  static TPoint DernierePosition;  // last mouse position, whole logical units
+
   static void ReinitialiseStatiques();
+
+private:
+  // A hit test over the elements of this sheet in the order of the search (Souris.cpp).
+  enum class TBouton { Gauche, Droit };
+  template <class Test>
+  TElt* Recherche(TBouton bouton, Test test);
+  void ClicConstruction(TDC& dc, const TPoint& p);
+  void ClicModification(TDC& dc, unsigned flags, const TPoint& p);
+  void ClicSynchro(TDC& dc, const TPoint& p);
+  void ClicSupprSynchro(TDC& dc, const TPoint& p);
+  void Deplace(TDC& dc, const TPoint& position);
+  // Repaints the selected range.
+  void InvalidPlage(TDC& dc);
+  void CommandeDessin(unsigned id, const char* statut);
+  void CommandeInsertion(TDC& dc, unsigned id);
+  void AjoutCV(TDC& dc);
+  // Gives up the element being drawn, if any: true when one was removed.
+  bool AbandonneEnCours(TDC& dc);
+  // Writes the routine to chemin; false, with the message, when it can't be written.
+  bool EcritRoutine(const std::string& chemin);
 };

@@ -73,6 +73,10 @@ int TElt::MoveBD(int yBarre) {
   return pBD->Hauteur() - 1;
 }
 
+void TElt::OpenBD() {
+  if (!pBD) pBD = new TBD(this);
+}
+
 void TElt::CloseBD() {
   if (!pBD) return;
   pBD->CloseWindow(0);

@@ -88,6 +88,8 @@ public:
   // A change of the previous element changes this one's picture.
   virtual bool IsAInvalider() const { return false; }
   virtual int MoveBD(int y);
+  // Opens the element's property bar, hidden until the strip places it; nothing if it is open.
+  virtual void OpenBD();
   virtual void CloseBD();
   virtual void Supprime();
   virtual bool IsCalculV() const { return false; }

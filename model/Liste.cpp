@@ -73,6 +73,10 @@ bool TListe::Insere(TNoeud* n, TNoeud* pos) {
   return true;
 }
 
+void TListe::InsereAvant(TNoeud* n, TNoeud* pos) {
+  Lie(n, pos && pos->GetpListe() == this ? pos : pFin);
+}
+
 void TListe::Append(TNoeud* n) {
   pCourant = pFin;
   Insere(n);

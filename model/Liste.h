@@ -49,6 +49,8 @@ public:
   void Insere(TNoeud* n);
   bool Insere(TNoeud* n, TNoeud* pos);
   void Append(TNoeud* n);
+  // Puts n before pos, a node of this list, without walking it; at the end when pos is null.
+  void InsereAvant(TNoeud* n, TNoeud* pos);
   void Supprime();
   void Supprime(TNoeud* n);
   void Vide();

@@ -21,11 +21,11 @@ void TDialoguesConsole::MessageBeep(int) {}
 
 void TDialoguesConsole::MessageStatut(const std::string& texte) { std::fprintf(stderr, "%s\n", texte.c_str()); }
 
-std::optional<std::string> TDialoguesConsole::FichierAOuvrir(const std::string&, const std::string&) {
+std::optional<std::string> TDialoguesConsole::FichierAOuvrir(TDialogueFichier&) {
   return std::nullopt;
 }
 
-std::optional<std::string> TDialoguesConsole::FichierAEnregistrer(const std::string&, const std::string&) {
+std::optional<std::string> TDialoguesConsole::FichierAEnregistrer(TDialogueFichier&) {
   return std::nullopt;
 }
 

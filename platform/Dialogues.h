@@ -10,7 +10,17 @@ struct TDonneesImprimante;
 enum class TBoutons { OK, OKAnnuler, OuiNon, OuiNonAnnuler };
 enum class TIcone { Aucune, Information, Question, Avertissement, Erreur };
 enum class TReponse { OK, Annuler, Oui, Non };
-enum class TCurseur { Fleche, Carre, CarreCroix, Attente };
+enum class TCurseur { Fleche, Croix, Carre, CarreCroix, Attente };
+
+// One file dialog of a command: what it shows, and the last file chosen in it, which the
+// next showing starts from, so that each dialog remembers its own folder.
+struct TDialogueFichier {
+  std::string Titre;
+  // Descriptions and patterns separated by bars: "fichiers routine ROU | *.rou|...".
+  std::string Filtre;
+  std::string Extension;  // given to a name typed without one
+  std::string Dernier;
+};
 
 class TDialogues {
 public:
@@ -21,9 +31,10 @@ public:
   virtual void MessageBeep(int type = -1) = 0;
   // The message area of the editor frame's status bar.
   virtual void MessageStatut(const std::string& texte) = 0;
-  // File dialogs: the chosen path, or nothing when the user cancels.
-  virtual std::optional<std::string> FichierAOuvrir(const std::string& titre, const std::string& filtre) = 0;
-  virtual std::optional<std::string> FichierAEnregistrer(const std::string& titre, const std::string& filtre) = 0;
+  // File dialogs: the chosen path, or nothing when the user cancels. The file to open must
+  // exist. The dialog keeps the path chosen in d.Dernier.
+  virtual std::optional<std::string> FichierAOuvrir(TDialogueFichier& d) = 0;
+  virtual std::optional<std::string> FichierAEnregistrer(TDialogueFichier& d) = 0;
   // The one-line input dialog: the text typed, or nothing on Cancel.
   virtual std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
                                             const std::string& valeur) = 0;
@@ -43,8 +54,8 @@ public:
                       TIcone icone) override;
   void MessageBeep(int type) override;
   void MessageStatut(const std::string& texte) override;
-  std::optional<std::string> FichierAOuvrir(const std::string& titre, const std::string& filtre) override;
-  std::optional<std::string> FichierAEnregistrer(const std::string& titre, const std::string& filtre) override;
+  std::optional<std::string> FichierAOuvrir(TDialogueFichier& d) override;
+  std::optional<std::string> FichierAEnregistrer(TDialogueFichier& d) override;
   std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
                                     const std::string& valeur) override;
   void SetCurseur(TCurseur curseur) override;
@@ -57,8 +68,8 @@ public:
   TReponse MessageBox(const std::string&, const std::string&, TBoutons, TIcone) override { return TReponse::OK; }
   void MessageBeep(int) override {}
   void MessageStatut(const std::string&) override {}
-  std::optional<std::string> FichierAOuvrir(const std::string&, const std::string&) override { return {}; }
-  std::optional<std::string> FichierAEnregistrer(const std::string&, const std::string&) override { return {}; }
+  std::optional<std::string> FichierAOuvrir(TDialogueFichier&) override { return {}; }
+  std::optional<std::string> FichierAEnregistrer(TDialogueFichier&) override { return {}; }
   std::optional<std::string> Saisie(const std::string&, const std::string&, const std::string&) override {
     return {};
   }

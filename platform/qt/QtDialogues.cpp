@@ -48,6 +48,7 @@ Qt::CursorShape FormeQt(TCurseur curseur) {
   switch (curseur) {
     case TCurseur::Carre:
     case TCurseur::CarreCroix: return Qt::CrossCursor;
+    case TCurseur::Croix: return Qt::CrossCursor;
     case TCurseur::Attente: return Qt::WaitCursor;
     case TCurseur::Fleche: break;
   }
@@ -95,13 +96,24 @@ void TQtDialogues::MessageStatut(const std::string& texte) {
   if (barre_) barre_->showMessage(Q(texte));
 }
 
-std::optional<std::string> TQtDialogues::FichierAOuvrir(const std::string& titre, const std::string& filtre) {
-  return Chemin(QFileDialog::getOpenFileName(parent_, Q(titre), QString(), FiltreQt(filtre)));
+std::optional<std::string> TQtDialogues::Fichier(TDialogueFichier& d, bool enregistrer) {
+  QFileDialog dialogue(parent_, Q(d.Titre), QString(), FiltreQt(d.Filtre));
+  dialogue.setObjectName(QStringLiteral("dialogueFichier"));
+  dialogue.setAcceptMode(enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialogue.setFileMode(enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  // The question about an existing file is the editor's own, in its words.
+  if (enregistrer) dialogue.setOption(QFileDialog::DontConfirmOverwrite);
+  dialogue.setDefaultSuffix(Q(d.Extension));
+  if (!d.Dernier.empty()) dialogue.selectFile(Q(d.Dernier));
+  if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return std::nullopt;
+  const std::optional<std::string> chemin = Chemin(dialogue.selectedFiles().first());
+  if (chemin) d.Dernier = *chemin;
+  return chemin;
 }
 
-std::optional<std::string> TQtDialogues::FichierAEnregistrer(const std::string& titre, const std::string& filtre) {
-  return Chemin(QFileDialog::getSaveFileName(parent_, Q(titre), QString(), FiltreQt(filtre)));
-}
+std::optional<std::string> TQtDialogues::FichierAOuvrir(TDialogueFichier& d) { return Fichier(d, false); }
+
+std::optional<std::string> TQtDialogues::FichierAEnregistrer(TDialogueFichier& d) { return Fichier(d, true); }
 
 std::optional<std::string> TQtDialogues::Saisie(const std::string& titre, const std::string& invite,
                                                 const std::string& valeur) {

@@ -29,8 +29,8 @@ public:
                       TIcone icone) override;
   void MessageBeep(int type) override;
   void MessageStatut(const std::string& texte) override;
-  std::optional<std::string> FichierAOuvrir(const std::string& titre, const std::string& filtre) override;
-  std::optional<std::string> FichierAEnregistrer(const std::string& titre, const std::string& filtre) override;
+  std::optional<std::string> FichierAOuvrir(TDialogueFichier& d) override;
+  std::optional<std::string> FichierAEnregistrer(TDialogueFichier& d) override;
   std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
                                     const std::string& valeur) override;
   void SetCurseur(TCurseur curseur) override;
@@ -39,6 +39,7 @@ public:
 
 private:
   void RetireAttente();
+  std::optional<std::string> Fichier(TDialogueFichier& d, bool enregistrer);
 
   QPointer<QWidget> parent_;
   QPointer<QStatusBar> barre_;

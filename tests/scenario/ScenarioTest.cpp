@@ -66,8 +66,8 @@ public:
   }
   void MessageBeep(int) override { Dit("bip"); }
   void MessageStatut(const std::string& texte) override { Dit("statut " + texte); }
-  std::optional<std::string> FichierAOuvrir(const std::string&, const std::string&) override { return {}; }
-  std::optional<std::string> FichierAEnregistrer(const std::string&, const std::string&) override { return {}; }
+  std::optional<std::string> FichierAOuvrir(TDialogueFichier&) override { return {}; }
+  std::optional<std::string> FichierAEnregistrer(TDialogueFichier&) override { return {}; }
   std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
                                     const std::string& valeur) override {
     Dit("saisie « " + titre + " » « " + invite + " » « " + valeur + " »");

@@ -88,8 +88,12 @@ public:
   }
   void MessageBeep(int) override { ++Bips; }
   void MessageStatut(const std::string& texte) override { Statuts.push_back(texte); }
-  std::optional<std::string> FichierAOuvrir(const std::string&, const std::string&) override { return Prochain(); }
-  std::optional<std::string> FichierAEnregistrer(const std::string&, const std::string&) override {
+  std::optional<std::string> FichierAOuvrir(TDialogueFichier& d) override {
+    Fichiers.push_back(d);
+    return Prochain();
+  }
+  std::optional<std::string> FichierAEnregistrer(TDialogueFichier& d) override {
+    Fichiers.push_back(d);
     return Prochain();
   }
   std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
@@ -103,6 +107,7 @@ public:
   TReponse ParDefaut = TReponse::OK;  // the answer once they are used up
   std::deque<std::optional<std::string>> Textes;  // answers to the next file or input dialogs
   std::vector<Boite> Boites;
+  std::vector<TDialogueFichier> Fichiers;  // the file dialogs shown, as they were asked
   struct DemandeSaisie {
     std::string Titre;
     std::string Invite;

@@ -1,0 +1,158 @@
+// The "&Fichier" commands: open a routine, save it, save it under a name, save the selection
+// as a figure, choose the music. Files are written whole or not at all (EcritFichier), so a
+// failed save keeps the previous file.
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "editor/FenCadre2.h"
+#include "editor/FenDessin.h"
+#include "editor/FenListe.h"
+#include "files/Ecriture.h"
+#include "files/Lecture.h"
+#include "model/Document.h"
+#include "model/Elt.h"
+#include "model/Outils.h"
+#include "model/elements/Pt.h"
+#include "platform/Dialogues.h"
+
+namespace {
+TDialogueFichier DialogueOuvrir{"Ouvrir Fichier Routine", "fichiers routine ROU | *.rou|fichiers figure  FIG | *.fig|",
+                                "rou", {}};
+TDialogueFichier DialogueMusique{"Ouvrir Fichier Musique", "fichiers musique WAV | *.wav", "wav", {}};
+TDialogueFichier DialogueEnregistrer{"Enregistrer Fichier Routine",
+                                     "fichiers routine ROU | *.rou|fichiers routine FIG | *.fig|", "rou", {}};
+TDialogueFichier DialogueSelection{"Enregistrer une Figure", "fichiers figures FIG | *.fig", "fig", {}};
+
+const char* const PROBLEME_ENREGISTREMENT =
+    "Problème d'enregistrement : vérifiez \n que le fichier n'est pas en 'lecture seule'!!! ";
+
+void Curseur(TCurseur c) {
+  TFenDessin::CursorType = c;
+  Dialogues().SetCurseur(c);
+}
+
+// A figure holds one track: a name whose text after its last point is exactly "fig" is
+// refused while the routine has several kites.
+bool FigureRefusee(const std::string& chemin) {
+  const std::size_t point = chemin.rfind('.');
+  if (point == std::string::npos || chemin.compare(point + 1, std::string::npos, "fig") != 0 || nbCV <= 1)
+    return false;
+  Dialogues().MessageBox("Impossible : une figure ne peut contenir qu'une trajectoire", "Enregistrer figure");
+  return true;
+}
+
+bool Existe(const std::string& chemin) {
+  std::error_code erreur;
+  return std::filesystem::exists(chemin, erreur);
+}
+
+void CopieChemin(char* cible, std::size_t taille, const std::string& chemin) {
+  const std::size_t n = std::min(chemin.size(), taille - 1);
+  chemin.copy(cible, n);
+  cible[n] = '\0';
+}
+}  // namespace
+
+void TFenDessin::Ouvrir() {
+  NbFenDesOuvertes = 0;
+  const std::optional<std::string> chemin = Dialogues().FichierAOuvrir(DialogueOuvrir);
+  if (chemin) Ouvrir(*chemin);
+}
+
+void TFenDessin::Ouvrir(const std::string& chemin) {
+  Curseur(TCurseur::Attente);
+  CopieChemin(FichierRoutine, sizeof FichierRoutine, chemin);
+  if (pFenCadre) pFenCadre->SetTitre("Dessin Trajectoires : " + chemin);
+  pEltSynchro = nullptr;
+  // The document is emptied first: a file that can't be read leaves an empty routine.
+  const bool lu = pFenCadre && LitRoutine(*pFenCadre, chemin);
+  if (lu) {
+    if (pFenListe) pFenListe->RetraceBD();
+    pFenCadre->SetClientFenDes();
+    pFenCadre->pFenDesActive->OpenBD();
+    Demo();
+    // The sheets of the previous routine go; one empty sheet stays after the last used.
+    while (pFenCadre->nbFeuilles > NbFenDesOuvertes + 1) {
+      const int avant = pFenCadre->nbFeuilles;
+      pFenCadre->SupprFeuille(avant - 1);
+      if (pFenCadre->nbFeuilles == avant) break;
+    }
+  }
+  Curseur(TCurseur::Fleche);
+  if (pFenCadre) pFenCadre->Focus();
+  if (pFenDes0) pFenDes0->MetAJourOnglets();
+}
+
+bool TFenDessin::EcritRoutine(const std::string& chemin) {
+  if (EcritFichier(chemin, TexteRoutine())) return true;
+  Dialogues().MessageBox(PROBLEME_ENREGISTREMENT, " Enregistrer routine");
+  return false;
+}
+
+void TFenDessin::Enregistrer() {
+  const std::string chemin = FichierRoutine;
+  if (chemin.empty()) {
+    EnregistrerSous();
+    return;
+  }
+  if (FigureRefusee(chemin)) return;
+  if (!EcritRoutine(chemin)) EnregistrerSous();
+}
+
+void TFenDessin::EnregistrerSous() {
+  if (const std::optional<std::string> chemin = Dialogues().FichierAEnregistrer(DialogueEnregistrer);
+      chemin && !FigureRefusee(*chemin) &&
+      (!Existe(*chemin) || Dialogues().MessageBox("fichier existe : écraser ? ", "Enregistrer routine",
+                                                  TBoutons::OKAnnuler) == TReponse::OK)) {
+    // The name is kept even when the file can't be written: the next save tries it again.
+    CopieChemin(FichierRoutine, sizeof FichierRoutine, *chemin);
+    if (pFenCadre) pFenCadre->SetTitre("Dessin Trajectoires : " + *chemin);
+    EcritRoutine(*chemin);
+  }
+  if (pFenCadre) pFenCadre->Focus();
+}
+
+void TFenDessin::EnregistrerSelection() {
+  if (!pEltCourant2 || !pEltCourant) {
+    MessageErreur("Sélection Vide");
+    return;
+  }
+  MiseAJourVTotale();
+  TListeCV copie;
+  for (TElt* e = pEltCourant2; e; e = e->GetEltSuivant()) {
+    copie.Append(e->Copie(&copie, false));
+    if (e == pEltCourant) break;
+  }
+  const TElt* avant = pEltCourant2->GetEltPrecedent();
+  const TPointf P = avant ? avant->Getp2Param() : TPointf(0, 0);
+  const float T0 = avant ? avant->Gett2Param() : 0.0f;
+  if (copie.nbNoeud() < 2) {
+    MessageErreur("Enregistrement de la sélection impossible : vide");
+    return;
+  }
+  const std::optional<std::string> chemin = Dialogues().FichierAEnregistrer(DialogueSelection);
+  if (!chemin || (Existe(*chemin) && Dialogues().MessageBox("fichier existe : écraser ? ", "Enregistrer Figure",
+                                                            TBoutons::OKAnnuler) != TReponse::OK))
+    return;
+  // The figure starts at its own point, at time 0; the point is not part of the document.
+  TListeCV depart;
+  auto* pt = new TPt(TPoint(Tronque(P.x), Tronque(P.y)), pEltCourant2->pFen, nullptr, &depart);
+  depart.Append(pt);
+  pt->Sett2Param(0);
+  std::string texte;
+  pt->Enregistrer(texte, 0, 0.0f);
+  for (TNoeud* n = copie.Premier(); n; n = n->GetSuivant()) {
+    auto* e = static_cast<TElt*>(n);
+    e->Sett2Param(e->Gett2Param() - T0);
+    e->Enregistrer(texte, 0, 0.0f);
+  }
+  if (!EcritFichier(*chemin, texte)) Dialogues().MessageBox(PROBLEME_ENREGISTREMENT, " Enregistrer figure");
+  if (pFenCadre) pFenCadre->Focus();
+}
+
+void TFenDessin::OuvrirMusique() {
+  // The music is opened by the next demonstration and written by the next save.
+  if (const std::optional<std::string> chemin = Dialogues().FichierAOuvrir(DialogueMusique))
+    CopieChemin(_FichierMusique, sizeof _FichierMusique, *chemin);
+}
