@@ -96,6 +96,7 @@ int Echantillon(const std::vector<std::string>& args) {
 }  // namespace
 
 int Peins(const std::vector<std::string>& args);  // cli/Peinture.cpp
+int Rejoue(const std::vector<std::string>& args);  // cli/Rejeu.cpp
 #ifdef TRAJ_AVEC_RENDU
 int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
 int Imprime(const std::vector<std::string>& args);  // cli/Impression.cpp, where Qt's PDF writer is
@@ -113,6 +114,10 @@ const std::vector<TCommande>& Commandes() {
        "relit IN, peint la feuille SHEET comme l'écran, une ligne par tracé (--width W, défaut 880 ; "
        "--current K:I ; --range K:I:J)",
        Peins},
+      {"replay", "SCRIPT OUT",
+       "l'éditeur sans écran : deux feuilles et un cerf-volant (ou, avec --in IN, la routine IN ouverte), "
+       "les événements de SCRIPT, puis OUT écrit comme « E&nregistrer »",
+       Rejoue},
 #ifdef TRAJ_AVEC_RENDU
       {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1)",
        Rend},

@@ -1,0 +1,254 @@
+// trajectoires-cli replay SCRIPT OUT [--in IN]: the editor's logic fed with a script of mouse,
+// key, menu and tab events, without a display. What the editor shows goes to standard error,
+// one line each; `state` lines go to standard output; OUT is the routine as "E&nregistrer"
+// writes it.
+#include <cstdio>
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "editor/FenCadre2.h"
+#include "editor/FenDessin.h"
+#include "files/Ecriture.h"
+#include "files/Lecture.h"
+#include "files/Lignes.h"
+#include "model/Document.h"
+#include "model/Elt.h"
+#include "platform/Dialogues.h"
+
+namespace {
+
+constexpr int LARGEUR_DEPART = 880;
+constexpr int HAUTEUR_BANDE = 200;  // the strip under the sheets, which nothing here shows
+
+enum class TIssue { Continue, Illisible, Usage };
+
+// One queued answer to a dialog: its kind ("ok", "cancel", "file", "texte") and its text.
+struct TReponseScript {
+  std::string Genre;
+  std::string Texte;
+};
+
+// The dialogs of a replay: they say what they show on standard error and take their answers
+// from the script's queue. A dialog with no answer waiting is cancelled.
+class TDialoguesRejeu : public TDialogues {
+public:
+  TReponse MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons, TIcone) override {
+    std::fprintf(stderr, "%s: %s\n", titre.c_str(), texte.c_str());
+    if (boutons == TBoutons::OK) return TReponse::OK;  // nothing to choose
+    const std::optional<TReponseScript> r = Prend({"ok", "cancel"});
+    if (!r || r->Genre == "cancel") return boutons == TBoutons::OKAnnuler ? TReponse::Annuler : TReponse::Non;
+    return boutons == TBoutons::OKAnnuler ? TReponse::OK : TReponse::Oui;
+  }
+  void MessageBeep(int) override { std::fprintf(stderr, "beep\n"); }
+  void MessageStatut(const std::string& texte) override {
+    // The editor's errors carry their own mark, "!!!! ".
+    if (texte.rfind("!!!! ", 0) == 0)
+      std::fprintf(stderr, "%s\n", texte.c_str());
+    else
+      std::fprintf(stderr, "status: %s\n", texte.c_str());
+  }
+  std::optional<std::string> FichierAOuvrir(TDialogueFichier&) override {
+    const std::optional<std::string> chemin = Fichier();
+    // An open dialog only returns a file that is there.
+    std::error_code erreur;
+    if (chemin && !std::filesystem::is_regular_file(*chemin, erreur)) {
+      Message = "impossible de lire « " + *chemin + " »";
+      Issue = TIssue::Illisible;
+      return std::nullopt;
+    }
+    return chemin;
+  }
+  std::optional<std::string> FichierAEnregistrer(TDialogueFichier&) override { return Fichier(); }
+  std::optional<std::string> Saisie(const std::string&, const std::string&, const std::string&) override {
+    const std::optional<TReponseScript> r = Prend({"texte", "cancel"});
+    if (!r || r->Genre == "cancel") return std::nullopt;
+    return r->Texte;
+  }
+  void SetCurseur(TCurseur) override {}
+
+  std::deque<TReponseScript> Reponses;
+  TIssue Issue = TIssue::Continue;
+  std::string Message;
+
+private:
+  std::optional<std::string> Fichier() {
+    const std::optional<TReponseScript> r = Prend({"file", "cancel"});
+    if (!r || r->Genre == "cancel") return std::nullopt;
+    return r->Texte;
+  }
+  // The next answer if it is of one of the kinds; a wrong kind stops the replay.
+  std::optional<TReponseScript> Prend(std::initializer_list<const char*> genres) {
+    if (Reponses.empty() || Issue != TIssue::Continue) return std::nullopt;
+    TReponseScript r = Reponses.front();
+    Reponses.pop_front();
+    for (const char* g : genres)
+      if (r.Genre == g) return r;
+    Message = "réponse « " + r.Genre + " » inattendue pour ce dialogue";
+    Issue = TIssue::Usage;
+    return std::nullopt;
+  }
+};
+
+// `K:I` of an element, `-` for none.
+std::string Position(TElt* e) {
+  if (!e || !e->EstDansListe()) return "-";
+  return std::to_string(e->pListeCV->Num) + ":" + std::to_string(e->pListeCV->GetIndex(e));
+}
+
+void Etat(const TFenCadre2& cadre) {
+  std::string onglets;
+  for (int i = 0; i < cadre.nbFeuilles; ++i) onglets += (i ? "|" : "") + cadre.GetLabelOnglet(i);
+  std::printf("STATE %d %d %d %s %s %s %d %d %d %s\n", TFenDessin::Fonction, TFenDessin::Etape, TFenDessin::nCV,
+              Position(TFenDessin::pEltCourant).c_str(), Position(TFenDessin::pEltCourant2).c_str(),
+              Position(TFenDessin::pEltSel).c_str(), nbCV, cadre.nbFeuilles,
+              cadre.pFenDesActive ? cadre.pFenDesActive->Num : 0, onglets.c_str());
+  // Kept in order with the messages when both streams go to one file.
+  std::fflush(stdout);
+}
+
+bool Entier(const std::string& s, int& n) {
+  std::size_t fin = 0;
+  try {
+    n = std::stoi(s, &fin);
+  } catch (...) {
+    return false;
+  }
+  return fin == s.size();
+}
+
+// Runs one line of the script; false with `erreur` set for a usage error.
+bool Evenement(const std::string& ligne, TFenCadre2& cadre, TDialoguesRejeu& dialogues, std::string& erreur) {
+  std::istringstream flux(ligne);
+  std::vector<std::string> m;
+  for (std::string mot; flux >> mot;) m.push_back(mot);
+  const std::string& e = m[0];
+  auto entiers = [&](std::size_t debut, std::size_t n, std::vector<int>& v) {
+    v.assign(n, 0);
+    for (std::size_t i = 0; i < n; ++i)
+      if (debut + i >= m.size() || !Entier(m[debut + i], v[i])) return false;
+    return true;
+  };
+  auto reste = [&](std::size_t mots) {
+    // The text after the first `mots` words, blanks inside kept.
+    std::size_t p = 0;
+    for (std::size_t i = 0; i < mots; ++i) {
+      p = ligne.find_first_not_of(" \t", p);
+      p = ligne.find_first_of(" \t", p);
+    }
+    p = p == std::string::npos ? ligne.size() : ligne.find_first_not_of(" \t", p);
+    return p == std::string::npos ? std::string() : ligne.substr(p);
+  };
+  TFenDessin* feuille = cadre.pFenDesActive;
+  std::vector<int> v;
+  if (e == "width" && m.size() == 2 && entiers(1, 1, v) && v[0] > 0) {
+    cadre.EvSize(v[0], v[0] / 2 + HAUTEUR_BANDE);
+  } else if (e == "menu" && m.size() == 2 && entiers(1, 1, v) && v[0] >= 0) {
+    feuille->Trt_Menu(static_cast<unsigned>(v[0]));
+  } else if ((e == "down" || e == "rdown") && (m.size() == 3 || (m.size() == 4 && m[3] == "shift")) &&
+             entiers(1, 2, v)) {
+    const unsigned flags = m.size() == 4 ? MK_SHIFT : 0;
+    if (e == "down")
+      feuille->EvLButtonDown(flags, TPoint(v[0], v[1]));
+    else
+      feuille->EvRButtonDown(flags, TPoint(v[0], v[1]));
+  } else if ((e == "up" || e == "move") && m.size() == 3 && entiers(1, 2, v)) {
+    if (e == "up")
+      feuille->EvLButtonUp(0, TPoint(v[0], v[1]));
+    else
+      feuille->EvMouseMove(0, TPoint(v[0], v[1]));
+  } else if (e == "key" && m.size() == 2 && (m[1] == "esc" || m[1] == "del")) {
+    if (m[1] == "esc")
+      feuille->EvChar(CAR_ECHAP, 1, 0);
+    else
+      feuille->EvKeyDown(VK_DELETE, 1, 0);
+  } else if (e == "tab" && m.size() == 2 && entiers(1, 1, v)) {
+    if (v[0] < 1 || v[0] > cadre.nbFeuilles) {
+      erreur = "la feuille " + m[1] + " n'existe pas";
+      return false;
+    }
+    cadre.TabSelChange(v[0] - 1);
+  } else if (e == "state" && m.size() == 1) {
+    Etat(cadre);
+  } else if (e == "answer" && m.size() == 2 && (m[1] == "ok" || m[1] == "cancel")) {
+    dialogues.Reponses.push_back({m[1], ""});
+  } else if (e == "answer" && m.size() >= 3 && (m[1] == "file" || m[1] == "texte")) {
+    dialogues.Reponses.push_back({m[1], reste(2)});
+  } else {
+    erreur = "événement inconnu ou mal formé « " + ligne + " »";
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int Rejoue(const std::vector<std::string>& args) {
+  std::string script, sortie, entree;
+  std::vector<std::string> positionnels;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--in" && i + 1 < args.size())
+      entree = args[++i];
+    else
+      positionnels.push_back(args[i]);
+  }
+  if (positionnels.size() != 2) {
+    std::fprintf(stderr, "trajectoires-cli : replay prend SCRIPT et OUT, et --in IN au besoin (voir --help)\n");
+    return 2;
+  }
+  script = positionnels[0];
+  sortie = positionnels[1];
+  const std::optional<std::string> texte = LitFichier(script);
+  if (!texte) {
+    std::fprintf(stderr, "trajectoires-cli : impossible de lire « %s »\n", script.c_str());
+    return 1;
+  }
+
+  TDialoguesRejeu dialogues;
+  SetDialogues(&dialogues);
+  struct Restaure {
+    ~Restaure() { SetDialogues(nullptr); }
+  } restaure;
+
+  // The editor as the application builds it: two sheets, one kite, the selection tool idle.
+  TFenCadre2 cadre;
+  cadre.SetHauteurs(0, 0, 0);
+  cadre.SetupWindow();
+  cadre.EvSize(LARGEUR_DEPART, LARGEUR_DEPART / 2 + HAUTEUR_BANDE);
+  if (!entree.empty()) {
+    std::error_code erreur;
+    if (!std::filesystem::is_regular_file(entree, erreur) || !LitFichier(entree)) {
+      std::fprintf(stderr, "trajectoires-cli : impossible de lire « %s »\n", entree.c_str());
+      return 1;
+    }
+    cadre.pFenDesActive->Ouvrir(entree);
+  }
+
+  std::istringstream lignes(*texte);
+  int numero = 0;
+  for (std::string ligne; std::getline(lignes, ligne);) {
+    ++numero;
+    if (!ligne.empty() && ligne.back() == '\r') ligne.pop_back();
+    const std::size_t debut = ligne.find_first_not_of(" \t");
+    if (debut == std::string::npos || ligne[debut] == '#') continue;
+    ligne = ligne.substr(debut);
+    std::string erreur;
+    if (!Evenement(ligne, cadre, dialogues, erreur)) {
+      std::fprintf(stderr, "trajectoires-cli : %s, ligne %d : %s\n", script.c_str(), numero, erreur.c_str());
+      return 2;
+    }
+    if (dialogues.Issue != TIssue::Continue) {
+      std::fprintf(stderr, "trajectoires-cli : %s, ligne %d : %s\n", script.c_str(), numero, dialogues.Message.c_str());
+      return dialogues.Issue == TIssue::Usage ? 2 : 1;
+    }
+  }
+  if (!EcritFichier(sortie, TexteRoutine())) {
+    std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", sortie.c_str());
+    return 1;
+  }
+  return 0;
+}
