@@ -1,6 +1,10 @@
-// The editor's tool-bar pictures.
+// The editor's tool-bar pictures and its two square cursors.
+#include "platform/qt/Pixels.h"
+#include "platform/qt/editeur/Curseurs.h"
+
 #include <gtest/gtest.h>
 
+#include <QBitmap>
 #include <QIcon>
 #include <QPixmap>
 
@@ -23,5 +27,26 @@ TEST(EditeurQt, EveryToolHasItsOwnPictureAt24Pixels) {
     // Two ids pointing at one file is the easy mistake in a resource list.
     for (const QImage& autre : vues) EXPECT_NE(image, autre) << id;
     vues.push_back(image);
+  }
+}
+
+TEST(EditeurQt, SquareCursorsAreDrawnAroundTheirHotSpot) {
+  EXPECT_EQ(CurseurQt(TCurseur::Fleche).shape(), Qt::ArrowCursor);
+  EXPECT_EQ(CurseurQt(TCurseur::Attente).shape(), Qt::WaitCursor);
+  for (bool croix : {false, true}) {
+    const QCursor curseur = CurseurQt(croix ? TCurseur::CarreCroix : TCurseur::Carre);
+    EXPECT_EQ(curseur.hotSpot(), QPoint(6, 6));
+    const QImage traits = curseur.bitmap().toImage(), masque = curseur.mask().toImage();
+    ASSERT_EQ(traits.size(), QSize(12, 12));
+    ASSERT_EQ(masque.size(), QSize(12, 12));
+    for (int y = 0; y < 12; ++y)
+      for (int x = 0; x < 12; ++x) {
+        const bool bord = x == 0 || y == 0 || x == 11 || y == 11;
+        const bool diagonale = x == y || x + y == 11;
+        const bool attendu = bord || (croix && diagonale);
+        // Black lines (picture and mask set), transparent elsewhere (both clear).
+        EXPECT_EQ(Encre(traits.pixel(x, y)), attendu) << croix << " " << x << "," << y;
+        EXPECT_EQ(Encre(masque.pixel(x, y)), attendu) << croix << " " << x << "," << y;
+      }
   }
 }
