@@ -1,9 +1,9 @@
 #pragma once
 // The application: its dialogs and its two windows. The player draws its scene itself, when
 // it has something new to show.
-#include "platform/qt/QFenCadre.h"
-#include "platform/qt/QFenCadre2.h"
 #include "platform/qt/QtDialogues.h"
+#include "platform/qt/editeur/QFenCadre2.h"
+#include "platform/qt/lecteur/QFenCadre.h"
 #include "platform/sdl/SonSDL.h"
 
 #include <QObject>

@@ -4,8 +4,8 @@
 // show the texts the frame holds; the client area is the 3D view, drawn when the player wants
 // a frame, at most once per refresh of the screen.
 #include "demo/player/FenCadre.h"
-#include "platform/qt/Cadence.h"
-#include "platform/qt/QVue3D.h"
+#include "platform/qt/lecteur/Cadence.h"
+#include "platform/qt/lecteur/QVue3D.h"
 
 #include <QMainWindow>
 

@@ -1,4 +1,4 @@
-#include "platform/qt/Cadence.h"
+#include "platform/qt/lecteur/Cadence.h"
 
 #include <QEvent>
 #include <QScreen>

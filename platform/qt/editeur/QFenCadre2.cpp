@@ -1,4 +1,4 @@
-#include "platform/qt/QFenCadre2.h"
+#include "platform/qt/editeur/QFenCadre2.h"
 
 #include "platform/qt/Cadre.h"
 #include "platform/qt/editeur/QFeuille.h"

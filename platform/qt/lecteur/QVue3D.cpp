@@ -1,4 +1,4 @@
-#include "platform/qt/QVue3D.h"
+#include "platform/qt/lecteur/QVue3D.h"
 
 #include "platform/gl/SurfaceHorsEcran.h"
 

@@ -1,4 +1,4 @@
-#include "platform/qt/QFenCadre.h"
+#include "platform/qt/lecteur/QFenCadre.h"
 
 #include "demo/player/Commandes.h"
 #include "demo/player/FenApp.h"
@@ -28,7 +28,7 @@ QLabel* Gadget(QWidget* parent, int caracteres) {
 
 // The pictures of the buttons live in a static library: their resources must be asked for,
 // from outside any namespace, or the linker leaves them out.
-static void ChargeIcones() { Q_INIT_RESOURCE(icones); }
+static void ChargeIcones() { Q_INIT_RESOURCE(lecteur); }
 
 QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   ChargeIcones();
@@ -100,7 +100,7 @@ void QFenCadre::CreeBarre() {
         // The menu holds the command's action; the button is another view of it.
         QAction* a = Action(g.Id);
         if (!a) a = NouvelleAction(g.Id);
-        a->setIcon(QIcon(QStringLiteral(":/icones/%1.svg").arg(g.Bitmap)));
+        a->setIcon(QIcon(QStringLiteral(":/icones-lecteur/%1.svg").arg(g.Bitmap)));
         barre->addAction(a);
         break;
       }
