@@ -1,5 +1,7 @@
 #include "platform/qt/QtDialogues.h"
 
+#include "platform/qt/editeur/Curseurs.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -42,17 +44,6 @@ QMessageBox::StandardButton PremierBouton(TBoutons boutons) {
     case TBoutons::OuiNonAnnuler: return QMessageBox::Yes;
   }
   return QMessageBox::Ok;
-}
-
-Qt::CursorShape FormeQt(TCurseur curseur) {
-  switch (curseur) {
-    case TCurseur::Carre:
-    case TCurseur::CarreCroix: return Qt::CrossCursor;
-    case TCurseur::Croix: return Qt::CrossCursor;
-    case TCurseur::Attente: return Qt::WaitCursor;
-    case TCurseur::Fleche: break;
-  }
-  return Qt::ArrowCursor;
 }
 
 std::optional<std::string> Chemin(const QString& chemin) {
@@ -131,7 +122,7 @@ void TQtDialogues::SetCurseur(TCurseur curseur) {
     return;
   }
   RetireAttente();
-  if (zone_) zone_->setCursor(FormeQt(curseur));
+  if (zone_) zone_->setCursor(CurseurQt(curseur));
 }
 
 bool TQtDialogues::Impression(TDonneesImprimante& donnees) {

@@ -35,6 +35,7 @@ QCursor CurseurQt(TCurseur c) {
   switch (c) {
     case TCurseur::Carre: return Carre(false);
     case TCurseur::CarreCroix: return Carre(true);
+    case TCurseur::Croix: return QCursor(Qt::CrossCursor);
     case TCurseur::Attente: return QCursor(Qt::WaitCursor);
     case TCurseur::Fleche: break;
   }
