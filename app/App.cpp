@@ -2,6 +2,8 @@
 
 #include "demo/D3DDemo.h"
 #include "demo/player/FenApp.h"
+#include "editor/FenDessin.h"
+#include "platform/qt/editeur/QFeuille.h"
 #include "model/Document.h"
 #include "platform/Rendu.h"
 #include "platform/Son.h"
@@ -28,11 +30,16 @@ void TApp::Demarre() {
   editeur_ = std::make_unique<QFenCadre2>();
   dialogues_.SetParent(editeur_.get());
   dialogues_.SetBarreStatut(editeur_->statusBar());
+  dialogues_.SetZoneCurseur(editeur_->Feuille());
   SetSon(&son_);
   lecteur_ = std::make_unique<QFenCadre>();
   SetRendu(&lecteur_->Vue()->Rendu());
   editeur_->show();
   lecteur_->show();
+}
+
+void TApp::Ouvre(const std::string& chemin) {
+  if (TFenDessin* feuille = editeur_->Cadre().pFenDesActive) feuille->Ouvrir(chemin);
 }
 
 bool AffichageDisponible(int argc, char** argv) {

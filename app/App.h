@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <memory>
+#include <string>
 
 class TApp : public QObject {
 public:
@@ -17,6 +18,8 @@ public:
 
   // Installs the Qt dialogs, creates the editor then the player and shows both.
   void Demarre();
+  // Opens a routine as "&Ouvrir" does once its dialog has answered.
+  void Ouvre(const std::string& chemin);
 
   QFenCadre2* Editeur() const { return editeur_.get(); }
   QFenCadre* Lecteur() const { return lecteur_.get(); }

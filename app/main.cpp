@@ -1,6 +1,7 @@
 #include "app/App.h"
 
 #include <QApplication>
+#include <QStringList>
 #include <clocale>
 #include <cstdio>
 
@@ -18,5 +19,8 @@ int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   TApp app;
   app.Demarre();
+  // "trajectoires ROUTINE.rou" opens the routine at start; Qt has taken its own arguments.
+  const QStringList arguments = QCoreApplication::arguments();
+  if (arguments.size() > 1) app.Ouvre(arguments.at(1).toStdString());
   return application.exec();
 }

@@ -3,6 +3,8 @@
 // widgets from them and sends every command id to TFenApp::Trt_Menu.
 #include <span>
 
+#include "platform/Menus.h"
+
 enum TCommandeLecteur : unsigned {
   CM_LECTURE = 100,
   CM_PAUSE = 101,
@@ -36,30 +38,12 @@ inline constexpr int NB_TEAMS = 5;
 // control bar.
 enum TGadgetLecteur : int { GADGET_T = 0, GADGET_V = 1, GADGET_PAS = 2, GADGET_DEBUT = 4 };
 
-// One item of a pop-up; Id 0 is a separator.
-struct TEntreeMenu {
-  unsigned Id;
-  const char* Texte;
-};
-
-struct TMenuDeroulant {
-  const char* Titre;
-  std::span<const TEntreeMenu> Entrees;
-};
 
 // The three pop-ups of the menu bar, in order.
 std::span<const TMenuDeroulant> MenuLecteur();
 // The menu text of a command, or null for an id the player does not have.
 const char* TexteCommande(unsigned id);
 
-// One gadget of the control bar, from left to right.
-enum class TGenreGadget { Bouton, Separateur, Texte };
-struct TGadgetBarre {
-  TGenreGadget Genre;
-  int Bitmap;      // Bouton: the bitmap resource, 200 to 219
-  unsigned Id;     // Bouton: the command; Texte: the gadget id
-  int Largeur;     // Separateur: pixels; Texte: characters
-};
 std::span<const TGadgetBarre> BarreLecteur();
 
 // The text gadgets of the status bar, left to right after the message area; each is

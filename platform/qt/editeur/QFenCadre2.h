@@ -1,25 +1,61 @@
 #pragma once
-// The editor's main window: a view over TFenCadre2.
+// The editor's main window, "Dessin Trajectoires": a view over TFenCadre2. Its menu and
+// control bar are built from the editor's command tables and every command goes to the
+// active sheet's Trt_Menu; under them stand the tabs, the active sheet and the strip of the
+// property bars, laid out as the frame computes, and the status bar.
 #include "editor/FenCadre2.h"
+#include "editor/VueCadre2.h"
 
 #include <QMainWindow>
 
-class QFeuille;
+#include <map>
 
-class QFenCadre2 : public QMainWindow {
+class QAction;
+class QFeuille;
+class QLabel;
+class QTabBar;
+
+class QFenCadre2 : public QMainWindow, public TVueCadre2 {
   Q_OBJECT
 public:
   explicit QFenCadre2(QWidget* parent = nullptr);
+  ~QFenCadre2() override;
 
   TFenCadre2& Cadre() { return cadre_; }
   // The widget of the active sheet.
   QFeuille* Feuille() const { return feuille_; }
+  QTabBar* Onglets_() const { return onglets_; }
+  QWidget* Bande() const { return bande_; }
+  // The action of a command, for tests.
+  QAction* Action(unsigned id) const;
+  QLabel* GadgetPosition() const { return position_; }
+  QLabel* GadgetSynchro() const { return synchro_; }
+
+  // TVueCadre2
+  void Onglets() override;
+  void FeuilleActive() override;
+  void Invalide(TFenDessin* feuille, const TRect& r) override;
+  void Textes() override;
+  void Focus() override;
+  void Barres() override;
 
 protected:
   void closeEvent(QCloseEvent* evenement) override;
-  void resizeEvent(QResizeEvent* evenement) override;
+  bool eventFilter(QObject* objet, QEvent* evenement) override;
 
 private:
+  void CreeMenu();
+  void CreeBarre();
+  QAction* NouvelleAction(unsigned id, const char* texte);
+  // The client area changed size: the frame computes the places, the widgets take them.
+  void Dispose();
+
   TFenCadre2 cadre_;
-  QFeuille* feuille_;
+  QWidget* client_ = nullptr;
+  QTabBar* onglets_ = nullptr;
+  QFeuille* feuille_ = nullptr;
+  QWidget* bande_ = nullptr;
+  QLabel* position_ = nullptr;
+  QLabel* synchro_ = nullptr;
+  std::map<unsigned, QAction*> actions_;
 };

@@ -1,6 +1,6 @@
 #pragma once
-// The widget of one sheet: it hands its size and its paint events to the sheet's TFenDessin,
-// which draws the wind window and the elements on it through a QPainter surface.
+// The widget of the active sheet: it hands its size, its paint events, the mouse and the
+// Escape and Delete keys to the sheet's TFenDessin, which draws through a QPainter surface.
 #include <QWidget>
 
 class TFenDessin;
@@ -17,6 +17,10 @@ public:
 protected:
   void paintEvent(QPaintEvent* evenement) override;
   void resizeEvent(QResizeEvent* evenement) override;
+  void mousePressEvent(QMouseEvent* evenement) override;
+  void mouseReleaseEvent(QMouseEvent* evenement) override;
+  void mouseMoveEvent(QMouseEvent* evenement) override;
+  void keyPressEvent(QKeyEvent* evenement) override;
 
 private:
   TFenDessin* feuille_ = nullptr;

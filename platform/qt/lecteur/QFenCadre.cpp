@@ -3,6 +3,7 @@
 #include "demo/player/Commandes.h"
 #include "demo/player/FenApp.h"
 #include "platform/qt/Cadre.h"
+#include "platform/qt/Gadgets.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -15,16 +16,6 @@
 #include <QToolBar>
 #include <QWindowStateChangeEvent>
 
-namespace {
-// A recessed, centred text gadget, as wide as `caracteres` characters of its font.
-QLabel* Gadget(QWidget* parent, int caracteres) {
-  auto* l = new QLabel(parent);
-  l->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-  l->setAlignment(Qt::AlignCenter);
-  l->setMinimumWidth(QFontMetrics(l->font()).horizontalAdvance(QLatin1Char('0')) * caracteres + 8);
-  return l;
-}
-}  // namespace
 
 // The pictures of the buttons live in a static library: their resources must be asked for,
 // from outside any namespace, or the linker leaves them out.
@@ -94,28 +85,15 @@ void QFenCadre::CreeBarre() {
   police.setPointSize(TAILLE_POLICE_BARRE_LECTEUR);
   barre->setFont(police);
   barre->setIconSize(QSize(20, 20));
-  for (const TGadgetBarre& g : BarreLecteur()) {
-    switch (g.Genre) {
-      case TGenreGadget::Bouton: {
-        // The menu holds the command's action; the button is another view of it.
-        QAction* a = Action(g.Id);
-        if (!a) a = NouvelleAction(g.Id);
-        a->setIcon(QIcon(QStringLiteral(":/icones-lecteur/%1.svg").arg(g.Bitmap)));
-        barre->addAction(a);
-        break;
-      }
-      case TGenreGadget::Separateur: {
-        auto* espace = new QWidget(barre);
-        espace->setFixedWidth(g.Largeur);
-        barre->addWidget(espace);
-        break;
-      }
-      case TGenreGadget::Texte:
-        zones_[static_cast<int>(TZoneLecteur::Debut)] = Gadget(barre, g.Largeur);
-        barre->addWidget(zones_[static_cast<int>(TZoneLecteur::Debut)]);
-        break;
-    }
-  }
+  ConstruitBarre(
+      barre, BarreLecteur(), QStringLiteral(":/icones-lecteur/"),
+      [this](unsigned id) {
+        QAction* a = Action(id);
+        return a ? a : NouvelleAction(id);
+      },
+      [&](const TGadgetBarre& g) {
+        return zones_[static_cast<int>(TZoneLecteur::Debut)] = Gadget(barre, g.Largeur);
+      });
 }
 
 void QFenCadre::CreeBarreStatut() {

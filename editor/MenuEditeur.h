@@ -1,0 +1,18 @@
+#pragma once
+// The editor's menu "MNU2" and its control bar, as data: the view builds its widgets from
+// them and sends every command id to TFenDessin::Trt_Menu of the active sheet.
+#include <span>
+
+#include "platform/Menus.h"
+
+// The pop-ups and commands of the menu bar, in order.
+std::span<const TMenuDeroulant> MenuEditeur();
+// The control bar: 17 buttons and the synchronisation gadget, with their separators.
+std::span<const TGadgetBarre> BarreEditeur();
+
+inline constexpr unsigned GADGET_SYNCHRO = 4;
+inline constexpr int CARACTERES_GADGET_SYNCHRO = 5;
+inline constexpr int CARACTERES_GADGET_POSITION = 10;
+// The commands whose menu item carries a check mark.
+inline constexpr unsigned CM_MAJ_PERMANENTE = 332;
+inline constexpr unsigned CM_MAJ_PARTIELLE = 334;
