@@ -13,11 +13,13 @@
 
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
+#include "editor/VueCadre2.h"
 #include "files/Ecriture.h"
 #include "files/Lecture.h"
 #include "files/Lignes.h"
 #include "model/Document.h"
 #include "model/Elt.h"
+#include "platform/DCJournal.h"
 #include "platform/Dialogues.h"
 
 namespace {
@@ -92,6 +94,27 @@ private:
     Issue = TIssue::Usage;
     return std::nullopt;
   }
+};
+
+// What stands for the window: as on the screen, a sheet that was invalidated is painted
+// before the next event comes, and painting an arc fixes its end point from its data.
+class TVueRejeu : public TVueCadre2 {
+public:
+  explicit TVueRejeu(TFenCadre2& cadre) : Cadre(cadre) {}
+  void FeuilleActive() override { APeindre = true; }
+  void Invalide(TFenDessin* feuille, const TRect&) override {
+    if (feuille == Cadre.pFenDesActive) APeindre = true;
+  }
+  void Peint() {
+    if (!APeindre || !Cadre.pFenDesActive) return;
+    APeindre = false;
+    TDCJournal dc;
+    Cadre.pFenDesActive->Paint(dc, true, TRect());
+  }
+
+private:
+  TFenCadre2& Cadre;
+  bool APeindre = true;
 };
 
 // `K:I` of an element, `-` for none.
@@ -216,6 +239,8 @@ int Rejoue(const std::vector<std::string>& args) {
 
   // The editor as the application builds it: two sheets, one kite, the selection tool idle.
   TFenCadre2 cadre;
+  TVueRejeu vue(cadre);
+  cadre.SetVue(&vue);
   cadre.SetHauteurs(0, 0, 0);
   cadre.SetupWindow();
   cadre.EvSize(LARGEUR_DEPART, LARGEUR_DEPART / 2 + HAUTEUR_BANDE);
@@ -227,6 +252,7 @@ int Rejoue(const std::vector<std::string>& args) {
     }
     cadre.pFenDesActive->Ouvrir(entree);
   }
+  vue.Peint();
 
   std::istringstream lignes(*texte);
   int numero = 0;
@@ -241,11 +267,13 @@ int Rejoue(const std::vector<std::string>& args) {
       std::fprintf(stderr, "trajectoires-cli : %s, ligne %d : %s\n", script.c_str(), numero, erreur.c_str());
       return 2;
     }
+    vue.Peint();
     if (dialogues.Issue != TIssue::Continue) {
       std::fprintf(stderr, "trajectoires-cli : %s, ligne %d : %s\n", script.c_str(), numero, dialogues.Message.c_str());
       return dialogues.Issue == TIssue::Usage ? 2 : 1;
     }
   }
+  cadre.SetVue(nullptr);
   if (!EcritFichier(sortie, TexteRoutine())) {
     std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", sortie.c_str());
     return 1;

@@ -1,0 +1,138 @@
+// The editor's real window under an X server: a kite drawn with the mouse, a manoeuvre
+// inserted, the routine saved through the real save dialog with a name typed into it. The
+// file must be the one that the companion's replay of the same gestures writes.
+#include <gtest/gtest.h>
+
+#include "Attente.h"
+#include "app/App.h"
+#include "editor/FenDessin.h"
+#include "model/Document.h"
+#include "platform/qt/editeur/QFeuille.h"
+#include "support/Attendu.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QPushButton>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTest>
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <sstream>
+#include <string>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class EditeurTest : public ::testing::Test {
+protected:
+  void SetUp() override {
+    fs::remove_all(dossier);
+    fs::create_directories(dossier);
+    ReinitialiseDocument();
+    app = std::make_unique<TApp>();
+    app->Demarre();
+    ASSERT_TRUE(AttendQue([&] { return app->Editeur()->Feuille()->isVisible() && app->Editeur()->Feuille()->width() > 0; }));
+    feuille = app->Editeur()->Feuille();
+  }
+  void TearDown() override {
+    app.reset();
+    ReinitialiseDocument();
+    fs::remove_all(dossier);
+  }
+
+  // The pixel of a logical point on the sheet shown.
+  QPoint Ecran(float x, float y) const {
+    const TPoint p = feuille->Feuille()->LPtoDP(TPointf(x, y));
+    return QPoint(p.x, p.y);
+  }
+  // Each gesture is done on the window and written to the script of the replay.
+  void Menu(unsigned id) {
+    app->Editeur()->Action(id)->trigger();
+    script << "menu " << id << "\n";
+  }
+  void Bouge(float x, float y) {
+    const QPoint p = Ecran(x, y);
+    // Through the window, as the window system delivers a move: the widget's overload warps
+    // the X pointer, whose move comes back late, after the next click.
+    QTest::mouseMove(feuille->window()->windowHandle(), feuille->mapTo(feuille->window(), p));
+    QApplication::processEvents();
+    script << "move " << p.x() << " " << p.y() << "\n";
+  }
+  void Clique(float x, float y) {
+    const QPoint p = Ecran(x, y);
+    QTest::mousePress(feuille, Qt::LeftButton, Qt::NoModifier, p);
+    QTest::mouseRelease(feuille, Qt::LeftButton, Qt::NoModifier, p);
+    script << "down " << p.x() << " " << p.y() << "\nup " << p.x() << " " << p.y() << "\n";
+  }
+  void Echap() {
+    QTest::keyClick(feuille, Qt::Key_Escape);
+    script << "key esc\n";
+  }
+
+  const fs::path dossier = fs::temp_directory_path() / ("trajectoires-editeur-" + std::to_string(getpid()));
+  std::unique_ptr<TApp> app;
+  QFeuille* feuille = nullptr;
+  std::ostringstream script;
+};
+
+TEST_F(EditeurTest, AKiteDrawnWithTheMouseIsSavedAsTheReplayOfTheSameGesturesSavesIt) {
+  script << "width " << feuille->width() << "\n";
+  Menu(301);
+  Clique(-60, 20);  // the kite's start point
+  Bouge(-55, 25);
+  Bouge(-30, 50);
+  Clique(-30, 50);
+  Bouge(-20, 55);
+  Bouge(0, 60);
+  Clique(0, 60);
+  Menu(305);
+  Clique(0, 60);  // the arc starts from the end of the last segment
+  Bouge(10, 64);
+  Bouge(30, 62);
+  Clique(30, 62);
+  Echap();
+  Clique(-15, 55);  // selects the second segment, then an axel goes before it
+  Menu(304);
+  EXPECT_EQ(app->Editeur()->Onglets_()->tabText(0).left(4), QStringLiteral("1 - "));
+
+  // In the real dialog, the user goes to the folder, types a name without its extension and
+  // clicks the button: the routine extension is added.
+  const fs::path fichier = dossier / "dessin.rou";
+  QuandOuvert<QFileDialog>([&](QFileDialog* d) {
+    auto* nom = d->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    ASSERT_NE(nom, nullptr);
+    // The completer's list would take the keys meant for the dialog.
+    nom->setCompleter(nullptr);
+    d->setDirectory(QString::fromStdString(dossier.string()));
+    nom->clear();
+    QTest::keyClicks(nom, QStringLiteral("dessin"));
+    // The dialog names its button after what the name typed so far designates.
+    QApplication::processEvents();
+    QPushButton* enregistrer = nullptr;
+    for (QPushButton* b : d->findChildren<QPushButton*>())
+      if (b->isDefault()) enregistrer = b;
+    ASSERT_NE(enregistrer, nullptr);
+    QTest::mouseClick(enregistrer, Qt::LeftButton);
+  });
+  app->Editeur()->Action(249)->trigger();
+  ASSERT_TRUE(fs::exists(fichier));
+  EXPECT_EQ(app->Editeur()->windowTitle(), QString::fromStdString("Dessin Trajectoires : " + fichier.string()));
+
+  std::ofstream(dossier / "gestes.rep") << script.str();
+  const std::string commande = Cite(TRAJ_CLI) + " replay " + Cite((dossier / "gestes.rep").string()) + " " +
+                               Cite((dossier / "rejeu.rou").string()) + " 2>/dev/null";
+  ASSERT_EQ(std::system(commande.c_str()), 0);
+  const std::string sauve = LitTout(fichier);
+  EXPECT_EQ(sauve, LitTout(dossier / "rejeu.rou"));
+  // Two segments, the axel, the arc, after the start point.
+  for (const char* ligne : {"POINT", "SEGMENT", "AXEL", "ARC"}) EXPECT_NE(sauve.find(ligne), std::string::npos) << ligne;
+}
+
+}  // namespace
