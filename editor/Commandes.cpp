@@ -135,10 +135,12 @@ void TFenDessin::Trt_Menu(unsigned id) {
 
 bool TFenDessin::AbandonneEnCours(TDC& dc) {
   if (!EstFonctionDessin(Fonction) || Etape != 3 || !pEltCourant) return false;
-  pEltCourant->Invalid(dc, true, 2);
-  TElt* precedent = pEltCourant->GetEltPrecedent();
-  Detache(pEltCourant);
-  pEltCourant->Supprime();
+  // Detache clears every pointer that names the element, pEltCourant among them.
+  TElt* const enCours = pEltCourant;
+  enCours->Invalid(dc, true, 2);
+  TElt* precedent = enCours->GetEltPrecedent();
+  Detache(enCours);
+  enCours->Supprime();
   pEltCourant = nullptr;
   pEltSel = precedent;
   if (precedent) precedent->Invalid(dc, true, 2);

@@ -2,7 +2,10 @@
 // with the figures it names beside it, run from its own folder, must give NAME.attendu byte
 // for byte: the OUT file for resave and solve, then standard output, then standard error,
 // then "(code N)" when the exit status is not 0. A sample case takes its time T from its name,
-// NAME@T.rou. TRAJ_REGENERE=1 rewrites the expected files (tests/data/README.md).
+// NAME@T.rou. A replay case, NAME.rep (with NAME.rou as --in when there is one), runs in a
+// copy of its folder, so that its dialogs may write there: the OUT file, "----", both streams
+// in their order, the code, then each file new or changed in the copy. TRAJ_REGENERE=1
+// rewrites the expected files (tests/data/README.md).
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -28,10 +31,10 @@ void PrintTo(const TCas& c, std::ostream* os) { *os << c.Commande << " " << c.Ro
 
 std::vector<TCas> Cas() {
   std::vector<TCas> cas;
-  for (const char* commande : {"resave", "solve", "keys", "sample"}) {
+  for (const std::string commande : {"resave", "solve", "keys", "sample", "replay"}) {
     std::vector<fs::path> routines;
     for (const auto& e : fs::directory_iterator(fs::path(TRAJ_CAS) / commande))
-      if (e.path().extension() == ".rou") routines.push_back(e.path());
+      if (e.path().extension() == (commande == "replay" ? ".rep" : ".rou")) routines.push_back(e.path());
     std::sort(routines.begin(), routines.end());
     for (const fs::path& r : routines) cas.push_back({commande, r});
   }
@@ -46,13 +49,36 @@ protected:
   }
   void TearDown() override { fs::remove_all(dossier); }
 
-  // Runs the companion from the case's folder; its exit status, -1 when it did not exit.
-  int Lance(const std::vector<std::string>& arguments) {
-    std::string commande = "cd " + Cite(GetParam().Routine.parent_path().string()) + " && exec " + Cite(TRAJ_CLI);
+  // Runs the companion from the case's folder, or from `depuis`; its exit status, -1 when it
+  // did not exit. With `unFlux`, standard error goes into "sortie" too.
+  int Lance(const std::vector<std::string>& arguments, fs::path depuis = {}, bool unFlux = false) {
+    if (depuis.empty()) depuis = GetParam().Routine.parent_path();
+    std::string commande = "cd " + Cite(depuis.string()) + " && exec " + Cite(TRAJ_CLI);
     for (const std::string& a : arguments) commande += " " + Cite(a);
-    commande += " >" + Cite((dossier / "sortie").string()) + " 2>" + Cite((dossier / "erreurs").string());
+    commande += " >" + Cite((dossier / "sortie").string()) +
+                (unFlux ? std::string(" 2>&1") : " 2>" + Cite((dossier / "erreurs").string()));
     const int statut = std::system(commande.c_str());
     return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
+  }
+
+  // The script runs in a copy of its folder; what it wrote or changed there is shown after it.
+  std::string Rejoue(const fs::path& script) {
+    const fs::path source = script.parent_path();
+    const fs::path copie = dossier / "copie";
+    fs::copy(source, copie);
+    std::vector<std::string> arguments = {"replay", script.filename().string(), (dossier / "out.rou").string()};
+    if (fs::path entree = script; fs::exists(entree.replace_extension(".rou")))
+      arguments.insert(arguments.end(), {"--in", entree.filename().string()});
+    const int code = Lance(arguments, copie, true);
+    std::string obtenu = LitTout(dossier / "out.rou") + "----\n" + LitTout(dossier / "sortie");
+    if (code != 0) obtenu += "(code " + std::to_string(code) + ")\n";
+    std::vector<fs::path> fichiers;
+    for (const auto& e : fs::directory_iterator(copie)) fichiers.push_back(e.path());
+    std::sort(fichiers.begin(), fichiers.end());
+    for (const fs::path& f : fichiers)
+      if (!fs::exists(source / f.filename()) || LitTout(f) != LitTout(source / f.filename()))
+        obtenu += "---- " + f.filename().string() + "\n" + LitTout(f);
+    return obtenu;
   }
 
   const fs::path dossier = fs::temp_directory_path() / ("trajectoires-cas-" + std::to_string(getpid()));
@@ -60,6 +86,9 @@ protected:
 
 TEST_P(CasTest, GivesItsExpectedFile) {
   const TCas& c = GetParam();
+  fs::path attendu = c.Routine;
+  attendu.replace_extension(".attendu");
+  if (c.Commande == "replay") return CompareAvecAttendu(Rejoue(c.Routine), attendu, dossier / "obtenu");
   const std::string nom = c.Routine.stem().string();
   const bool fichier = c.Commande == "resave" || c.Commande == "solve";
   std::vector<std::string> arguments = {c.Commande, c.Routine.filename().string()};
@@ -69,8 +98,7 @@ TEST_P(CasTest, GivesItsExpectedFile) {
   std::string obtenu =
       (fichier ? LitTout(dossier / "out.rou") : "") + LitTout(dossier / "sortie") + LitTout(dossier / "erreurs");
   if (code != 0) obtenu += "(code " + std::to_string(code) + ")\n";
-  fs::path attendu = c.Routine;
-  CompareAvecAttendu(obtenu, attendu.replace_extension(".attendu"), dossier / "obtenu");
+  CompareAvecAttendu(obtenu, attendu, dossier / "obtenu");
   // What the companion saves, it reads back to the same bytes.
   if (c.Commande == "resave" && code == 0 && !IsSkipped()) {
     Lance({"resave", (dossier / "out.rou").string(), (dossier / "encore.rou").string()});
