@@ -52,7 +52,10 @@ std::string Ligne(int classe, int cv, int index, int x, int y) {
 struct TFeuillePleine {
   TFeuillePleine() {
     SetDialogues(&muets);
+    // The frame, built before this body, gave the kites their numbers and colours: a reset
+    // must give them back.
     ReinitialiseDocument();
+    InitialiseNumCoul();
     // The figure is looked up by its bare name in the current directory.
     avant = std::filesystem::current_path();
     dossier = std::filesystem::temp_directory_path() / ("trajectoires-bench-peinture-" + std::to_string(getpid()));
