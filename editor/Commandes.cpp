@@ -91,31 +91,19 @@ void TFenDessin::Trt_Menu(unsigned id) {
       Fonction = FONCTION_SUPPR_SYNCHRO;
       break;
     case 332:
-      if (MAJPermanente) {
-        MAJPermanente = false;
-      } else {
-        MAJPermanente = true;
-        MAJUp = false;
-      }
+    case 334: {
+      // At most one of the two is on; turning one on turns the other off.
+      bool& option = id == 332 ? MAJPermanente : MAJUp;
+      bool& autre = id == 332 ? MAJUp : MAJPermanente;
+      if (!option) autre = false;
+      option = !option;
       if (pFenCadre) {
         pFenCadre->SetCoche(332, MAJPermanente);
         pFenCadre->SetCoche(334, MAJUp);
       }
       Dialogues().MessageBeep(-1);
       break;
-    case 334:
-      if (MAJUp) {
-        MAJUp = false;
-      } else {
-        MAJPermanente = false;
-        MAJUp = true;
-      }
-      if (pFenCadre) {
-        pFenCadre->SetCoche(332, MAJPermanente);
-        pFenCadre->SetCoche(334, MAJUp);
-      }
-      Dialogues().MessageBeep(-1);
-      break;
+    }
     case 335:
       MiseAJourVTotale();
       Dialogues().MessageBeep(-1);
@@ -260,15 +248,7 @@ void TFenDessin::Suppr(TDC& dc, TElt* e) {
 }
 
 void TFenDessin::Detache(TElt* e) {
-  if (TElt* pere = e->pPere) {
-    int restants = 0;
-    for (TElt*& fils : pere->pFils) {
-      if (fils == e) fils = nullptr;
-      if (fils) ++restants;
-    }
-    if (restants == 0) pere->NumSynchro = 0;
-    e->pPere = nullptr;
-  }
+  DetachePere(e);
   // Only a sheet's removal takes a father away: its children keep their times as anchors.
   for (TElt*& fils : e->pFils)
     if (fils) {

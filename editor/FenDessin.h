@@ -119,6 +119,8 @@ public:
   void SupprSynchro(TElt* e);
   // Undoes every synchronisation of e, as a father and as a child, before e goes.
   static void Detache(TElt* e);
+  // Clears e's place among its father's children, and the father's number with the last one.
+  static void DetachePere(TElt* e);
 
   TFenCadre2* pFenCadre;
   TFenListe* pFenListe;

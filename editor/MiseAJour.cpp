@@ -113,15 +113,21 @@ bool TFenDessin::PreleveSynchro() {
   return true;
 }
 
-void TFenDessin::SupprSynchro(TElt* e) {
-  if (!e || !e->pPere) return;
+void TFenDessin::DetachePere(TElt* e) {
   TElt* pere = e->pPere;
+  if (!pere) return;
   int restants = 0;
   for (TElt*& fils : pere->pFils) {
     if (fils == e) fils = nullptr;
     if (fils) ++restants;
   }
+  // The father's number goes with its last child.
   if (restants == 0) pere->NumSynchro = 0;
   e->pPere = nullptr;
+}
+
+void TFenDessin::SupprSynchro(TElt* e) {
+  if (!e || !e->pPere) return;
+  DetachePere(e);
   e->Sett2();
 }
