@@ -115,13 +115,3 @@ void BM_PeintureJournal(benchmark::State& state) {
 BENCHMARK(BM_PeintureJournal)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  // Fonts need a GUI application, but no display.
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
