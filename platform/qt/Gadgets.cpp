@@ -16,7 +16,7 @@ QLabel* Gadget(QWidget* parent, int caracteres) {
 
 void ConstruitBarre(QToolBar* barre, std::span<const TGadgetBarre> gadgets, const QString& prefixe,
                     const std::function<QAction*(unsigned)>& action,
-                    const std::function<QWidget*(const TGadgetBarre&)>& texte) {
+                    const std::function<QWidget*(const TGadgetBarre&)>& texte, double echelleSeparateurs) {
   for (const TGadgetBarre& g : gadgets) {
     switch (g.Genre) {
       case TGenreGadget::Bouton: {
@@ -28,7 +28,7 @@ void ConstruitBarre(QToolBar* barre, std::span<const TGadgetBarre> gadgets, cons
       }
       case TGenreGadget::Separateur: {
         auto* espace = new QWidget(barre);
-        espace->setFixedWidth(g.Largeur);
+        espace->setFixedWidth(static_cast<int>(g.Largeur * echelleSeparateurs));
         barre->addWidget(espace);
         break;
       }

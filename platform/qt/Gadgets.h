@@ -16,7 +16,8 @@ class QWidget;
 QLabel* Gadget(QWidget* parent, int caracteres);
 
 // Fills a control bar: each button shows the command's action (the menu's, or a new one)
-// with the picture `prefixe` + bitmap + ".svg"; each text gadget is made by `texte`.
+// with the picture `prefixe` + bitmap + ".svg"; each text gadget is made by `texte`. Separators
+// are their width times `echelleSeparateurs`.
 void ConstruitBarre(QToolBar* barre, std::span<const TGadgetBarre> gadgets, const QString& prefixe,
                     const std::function<QAction*(unsigned)>& action,
-                    const std::function<QWidget*(const TGadgetBarre&)>& texte);
+                    const std::function<QWidget*(const TGadgetBarre&)>& texte, double echelleSeparateurs = 1.0);

@@ -50,6 +50,7 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   blanc.setColor(QPalette::Window, Qt::white);
   bande_->setPalette(blanc);
   bande_->setAutoFillBackground(true);
+  bande_->installEventFilter(this);
   setCentralWidget(client_);
 
   cadre_.SetVue(this);
@@ -114,9 +115,8 @@ void QFenCadre2::CreeBarre() {
   police.setPointSize(10);
   barre->setFont(police);
   barre->setIconSize(QSize(16, 16));
-  // Seventeen buttons and their separators fit the frame's first width.
   barre->layout()->setSpacing(0);
-  barre->setStyleSheet(QStringLiteral("QToolButton { padding: 1px; margin: 0px; }"));
+  barre->setStyleSheet(QStringLiteral("QToolBar { spacing: 0px; padding: 0px; } QToolButton { padding: 1px; margin: 0px; }"));
   ConstruitBarre(
       barre, BarreEditeur(), QStringLiteral(":/icones-editeur/"),
       [this](unsigned id) {
@@ -125,11 +125,16 @@ void QFenCadre2::CreeBarre() {
           if (d.Id == id) return NouvelleAction(id, d.Titre);
         return NouvelleAction(id, "");
       },
-      [&](const TGadgetBarre& g) { return synchro_ = Gadget(barre, g.Largeur); });
+      [&](const TGadgetBarre& g) { return synchro_ = Gadget(barre, g.Largeur); },
+      // Qt's buttons are wider than bitmaps of 16 pixels in a thin frame: narrower gaps give
+      // the difference back, so that every tool shows at the frame's first width.
+      0.5);
 }
 
 bool QFenCadre2::eventFilter(QObject* objet, QEvent* evenement) {
   if (objet == client_ && evenement->type() == QEvent::Resize) Dispose();
+  // A click on the strip's free background shows where it is scrolled to.
+  if (objet == bande_ && evenement->type() == QEvent::MouseButtonPress) cadre_.pFenListe->EvLButtonDown();
   return QMainWindow::eventFilter(objet, evenement);
 }
 
