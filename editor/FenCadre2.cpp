@@ -103,13 +103,17 @@ void TFenCadre2::SupprFeuille() {
 }
 
 void TFenCadre2::SupprFeuille(int n) {
-  if (n < 1 || n > nbFeuilles || nbFeuilles < 2) return;
+  if (n < 1 || n > nbFeuilles) return;
+  if (nbFeuilles < 2) {
+    TFenDessin::MessageErreur("suppression impossible : il faut au moins une feuille");
+    return;
+  }
   TFenDessin::pEltCourant = TFenDessin::pEltCourant2 = TFenDessin::pEltSel = nullptr;
   TFenDessin* const feuille = GetFeuille(n - 1);
   for (int k = 0; k < NB_CV_MAX; ++k) {
     const TNoeud* premier = TabLElt[k].Premier();
     if (premier && static_cast<const TElt*>(premier)->pFen == feuille) {
-      if (pFenDesActive) pFenDesActive->MessageErreur("suppression impossible : début de trajectoire");
+      TFenDessin::MessageErreur("suppression impossible : début de trajectoire");
       return;
     }
   }
