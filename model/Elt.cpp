@@ -73,9 +73,7 @@ int TElt::MoveBD(int yBarre) {
   return pBD->Hauteur() - 1;
 }
 
-void TElt::OpenBD() {
-  if (!pBD) pBD = new TBD(this);
-}
+void TElt::OpenBD() { OuvreBD<TBD>(); }
 
 void TElt::CloseBD() {
   if (!pBD) return;

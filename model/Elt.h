@@ -145,6 +145,15 @@ protected:
   // The flight generator of this element's kite, or null with no scene.
   CV* GetCV() const;
 
+  // Opens the bar of class B and fills it from the element; nothing if it is open.
+  template <class B>
+  void OuvreBD() {
+    if (pBD) return;
+    B* b = new B(this);
+    pBD = b;
+    b->SetupWindow();
+  }
+
   // The end point of the copy: the stored one, truncated to whole units.
   TPoint PointCopie() const;
   // A new element of class T at PointCopie, built with the class's own fields `champs`,

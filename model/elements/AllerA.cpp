@@ -1,6 +1,7 @@
 #include "model/elements/AllerA.h"
 
 #include "editor/bars/BD.h"
+#include "editor/bars/BDAllerA.h"
 #include "model/Nombres.h"
 #include "model/Outils.h"
 
@@ -68,3 +69,5 @@ void TAllerA::Enregistrer(std::string& Fichier, int decalageFeuille, float decal
   }
   Enregistrer2(Fichier);
 }
+
+void TAllerA::OpenBD() { OuvreBD<TBD_AllerA>(); }

@@ -7,6 +7,7 @@ class TAllerA : public TElt {
 public:
   TAllerA(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
   TAllerA(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+  void OpenBD() override;
 
   void Set(int, int contrainte, float t, float duree, float xZ_, float yZ_, float zZ_, float xY_, float yY_,
            float zY_, float z_);

@@ -1,5 +1,6 @@
 #include "model/elements/Arc.h"
 
+#include "editor/bars/BDArc.h"
 #include <cmath>
 
 #include "editor/FenDessin.h"
@@ -252,3 +253,7 @@ void TArcRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float deca
   AjouteGcvt(Fichier, AngleRevo, 6);
   Enregistrer2(Fichier);
 }
+
+void TArc::OpenBD() { OuvreBD<TBD_Arc>(); }
+
+void TArcRevo::OpenBD() { OuvreBD<TBD_ArcRevo>(); }

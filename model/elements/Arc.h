@@ -23,6 +23,7 @@ class TArc : public TElt {
 public:
   TArc(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
   TArc(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+  void OpenBD() override;
 
   virtual void Set(int, int contrainte, float t, float v, float rayon, float angle);
   // The calculation that a drag of the end calls for, by TypeArc; its result is EtatArc.
@@ -75,6 +76,7 @@ class TArcRevo : public TArc {
 public:
   TArcRevo(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angleRevo);
   TArcRevo(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angleRevo, bool);
+  void OpenBD() override;
 
   void Set(int n, int contrainte, float t, float v, float rayon, float angle) override;
   virtual void Set(int, int contrainte, float t, float v, float rayon, float angle, float angleRevo);

@@ -1,6 +1,7 @@
 #include "model/elements/Axel.h"
 
 #include "editor/bars/BD.h"
+#include "editor/bars/BDManoeuvre.h"
 #include "model/Nombres.h"
 
 TManoeuvreCote::TManoeuvreCote(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
@@ -27,3 +28,7 @@ void TManoeuvreCote::Enregistrer(std::string& Fichier, int decalageFeuille, floa
   AjouteGcvt(Fichier, DureeConstante, 6);
   Enregistrer2(Fichier);
 }
+
+void TAxel::OpenBD() { OuvreBD<TBD_Axel>(); }
+
+void T540::OpenBD() { OuvreBD<TBD_540>(); }

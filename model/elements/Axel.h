@@ -32,6 +32,7 @@ class TAxel : public TManoeuvreCote {
 public:
   TAxel(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste) : TManoeuvreCote(p, fen, fenListe, liste) {}
   TAxel(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool) : TAxel(p, fen, fenListe, liste) {}
+  void OpenBD() override;
   TElt* Copie(TListeCV* l, bool Lien) override { return CopieCote<TAxel>(l, Lien); }
   void Paint(TDC& dc, int Feuille, bool Selection) override;
   void DirectX() override;
@@ -44,6 +45,7 @@ class T540 : public TManoeuvreCote {
 public:
   T540(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste) : TManoeuvreCote(p, fen, fenListe, liste) {}
   T540(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool) : T540(p, fen, fenListe, liste) {}
+  void OpenBD() override;
   TElt* Copie(TListeCV* l, bool Lien) override { return CopieCote<T540>(l, Lien); }
   void Paint(TDC& dc, int Feuille, bool Selection) override;
   void DirectX() override;

@@ -1,6 +1,7 @@
 #include "model/elements/Derapage.h"
 
 #include "editor/bars/BD.h"
+#include "editor/bars/BDSegment.h"
 
 TDerapage::TDerapage(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
     : TElt(p, fen, fenListe, liste) {
@@ -21,3 +22,5 @@ void TDerapage::Enregistrer(std::string& Fichier, int decalageFeuille, float dec
   EnregistrerDebut(Fichier, "DERAPAGE", decalageFeuille, decalageTemps);
   Enregistrer2(Fichier);
 }
+
+void TDerapage::OpenBD() { OuvreBD<TBD_Derapage>(); }

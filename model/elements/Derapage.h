@@ -6,6 +6,7 @@ class TDerapage : public TElt {
 public:
   TDerapage(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
   TDerapage(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+  void OpenBD() override;
 
   void Set(int, int contrainte, float t, float v);
 

@@ -1,5 +1,6 @@
 #include "model/elements/Figure.h"
 
+#include "editor/bars/BDFigure.h"
 #include <cstring>
 
 #include "editor/FenDessin.h"
@@ -159,3 +160,5 @@ void TFigure::Enregistrer(std::string& Fichier, int decalageFeuille, float decal
   AjouteEntier(Fichier, Transformation);
   Enregistrer2(Fichier);
 }
+
+void TFigure::OpenBD() { OuvreBD<TBD_Figure>(); }

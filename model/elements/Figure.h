@@ -14,6 +14,7 @@ public:
   // Reads the figure from Fichier, a path as the routine names it.
   TFigure(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, const char* Fichier, bool);
   ~TFigure() override;
+  void OpenBD() override;
 
   void Set(int, int contrainte, float t, float duree, int transformation);
   // The next step of the cycle 552, 553, 554, 555, 552, by composing mirrors about the

@@ -1,6 +1,7 @@
 #include "model/elements/Pose.h"
 
 #include "editor/bars/BD.h"
+#include "editor/bars/BDManoeuvre.h"
 #include "model/Nombres.h"
 #include "model/Outils.h"
 
@@ -63,3 +64,5 @@ void TPose::Enregistrer(std::string& Fichier, int decalageFeuille, float decalag
   AjouteEntier(Fichier, TypePose);
   Enregistrer2(Fichier);
 }
+
+void TPose::OpenBD() { OuvreBD<TBD_Pose>(); }

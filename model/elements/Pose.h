@@ -15,6 +15,7 @@ public:
   // The point is built at height 2; its first Getp2 puts it on the ground.
   TPose(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
   TPose(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+  void OpenBD() override;
 
   void Set(int, int contrainte, float t, float duree, int typePose);
   void Paint(TDC& dc, int Feuille, bool Selection) override;

@@ -1,5 +1,6 @@
 #include "model/elements/Pt.h"
 
+#include "editor/bars/BDPt.h"
 TPt::TPt(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
     : TElt(p, fen, fenListe, liste) {
   Contrainte = CONTRAINTE_TEMPS;
@@ -19,3 +20,5 @@ void TPt::Enregistrer(std::string& Fichier, int decalageFeuille, float decalageT
   EnregistrerDebut(Fichier, "POINT   ", decalageFeuille, decalageTemps);
   Enregistrer2(Fichier);
 }
+
+void TPt::OpenBD() { OuvreBD<TBD_Pt>(); }

@@ -6,6 +6,7 @@ class TPt : public TElt {
 public:
   TPt(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
   TPt(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+  void OpenBD() override;
 
   void Set(int, int contrainte, float t);
 

@@ -1,6 +1,7 @@
 #include "model/elements/Rot.h"
 
 #include "editor/bars/BD.h"
+#include "editor/bars/BDManoeuvre.h"
 #include "model/Nombres.h"
 #include "model/Outils.h"
 
@@ -32,3 +33,5 @@ void TRot::Enregistrer(std::string& Fichier, int decalageFeuille, float decalage
   AjouteGcvt(Fichier, Angle, 6);
   Enregistrer2(Fichier);
 }
+
+void TRot::OpenBD() { OuvreBD<TBD_Rot>(); }

@@ -6,6 +6,7 @@ class TRot : public TManoeuvre {
 public:
   TRot(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angle);
   TRot(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angle, bool);
+  void OpenBD() override;
 
   void Set(int, int contrainte, float t, float duree, float angle);
   void Paint(TDC& dc, int Feuille, bool Selection) override;

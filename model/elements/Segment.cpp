@@ -1,6 +1,7 @@
 #include "model/elements/Segment.h"
 
 #include "editor/bars/BD.h"
+#include "editor/bars/BDSegment.h"
 #include "model/Nombres.h"
 #include "model/Outils.h"
 
@@ -48,3 +49,7 @@ void TSegRevo::Enregistrer(std::string& Fichier, int decalageFeuille, float deca
   AjouteGcvt(Fichier, Angle, 6);
   Enregistrer2(Fichier);
 }
+
+void TSegment::OpenBD() { OuvreBD<TBD_Segment>(); }
+
+void TSegRevo::OpenBD() { OuvreBD<TBD_SegRevo>(); }

@@ -6,6 +6,7 @@ class TSegment : public TElt {
 public:
   TSegment(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
   TSegment(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+  void OpenBD() override;
 
   virtual void Set(int, int contrainte, float t, float v);
 
@@ -28,6 +29,7 @@ class TSegRevo : public TSegment {
 public:
   TSegRevo(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angle);
   TSegRevo(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, float angle, bool);
+  void OpenBD() override;
 
   void Set(int n, int contrainte, float t, float v) override;
   virtual void Set(int, int contrainte, float t, float v, float angle);

@@ -1,6 +1,7 @@
 #include "model/elements/Stop.h"
 
 #include "editor/bars/BD.h"
+#include "editor/bars/BDManoeuvre.h"
 #include "model/Nombres.h"
 
 TStop::TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)
@@ -26,3 +27,5 @@ void TStop::Enregistrer(std::string& Fichier, int decalageFeuille, float decalag
   AjouteGcvt(Fichier, DureeConstante, 6);
   Enregistrer2(Fichier);
 }
+
+void TStop::OpenBD() { OuvreBD<TBD_Stop>(); }

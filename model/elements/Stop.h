@@ -6,6 +6,7 @@ class TStop : public TManoeuvre {
 public:
   TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste);
   TStop(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste, bool);
+  void OpenBD() override;
 
   void Set(int, int contrainte, float t, float duree);
   void Paint(TDC& dc, int Feuille, bool Selection) override;
