@@ -1,7 +1,12 @@
 // trajectoires-cli replay SCRIPT OUT [--in IN]: the editor's logic fed with a script of mouse,
 // key, menu and tab events, without a display. What the editor shows goes to standard error,
 // one line each; `state` lines go to standard output; OUT is the routine as "E&nregistrer"
-// writes it.
+// writes it. The property bars of the active sheet take `type K I FIELD TEXT` (typed into
+// the field, which then loses the focus), `enter K I FIELD TEXT` (typed, then Enter),
+// `click K I BUTTON`, `barclick K I [shift]` (a click on the bar's background) and
+// `baresc K I` (Escape in the bar), for element I of kite K; `bar K I` prints the bar's
+// controls on standard output as `BAR K:I ID="TEXT"...`. A bar that is not open is a usage
+// error.
 #include <cstdio>
 #include <deque>
 #include <filesystem>
@@ -14,6 +19,7 @@
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
 #include "editor/VueCadre2.h"
+#include "editor/bars/BD.h"
 #include "files/Ecriture.h"
 #include "files/Lecture.h"
 #include "files/Lignes.h"
@@ -134,6 +140,30 @@ void Etat(const TFenCadre2& cadre) {
   std::fflush(stdout);
 }
 
+// The open bar of element I of kite K; null with `erreur` set when there is none.
+TBD* Barre(int k, int i, std::string& erreur) {
+  TElt* e = k >= 0 && k < NB_CV_MAX ? static_cast<TElt*>(TabLElt[k].GetPt(i)) : nullptr;
+  const std::string position = std::to_string(k) + ":" + std::to_string(i);
+  if (!e)
+    erreur = "aucun élément en " + position;
+  else if (!e->pBD)
+    erreur = "la barre de " + position + " n'est pas ouverte";
+  return e ? e->pBD : nullptr;
+}
+
+// Every control of a bar with its text; "(ro)" marks an edit that takes no typing, "(off)" a
+// disabled button.
+void MontreBarre(int k, int i, const TBD& bd) {
+  std::printf("BAR %d:%d", k, i);
+  for (int id : bd.Controles()) {
+    std::printf(" %d=\"%s\"", id, bd.GetDlgItemText(id).c_str());
+    if (bd.EstEdit(id) && bd.EstLectureSeule(id)) std::printf("(ro)");
+    if (bd.EstBouton(id) && !bd.EstActif(id)) std::printf("(off)");
+  }
+  std::printf("\n");
+  std::fflush(stdout);
+}
+
 bool Entier(const std::string& s, int& n) {
   std::size_t fin = 0;
   try {
@@ -195,6 +225,37 @@ bool Evenement(const std::string& ligne, TFenCadre2& cadre, TDialoguesRejeu& dia
       return false;
     }
     cadre.TabSelChange(v[0] - 1);
+  } else if ((e == "type" || e == "enter" || e == "click") && m.size() >= 4 && entiers(1, 3, v)) {
+    TBD* bd = Barre(v[0], v[1], erreur);
+    if (!bd) return false;
+    if (e == "click") {
+      if (m.size() != 4 || !bd->EstBouton(v[2])) {
+        erreur = "la barre n'a pas de bouton " + m[3];
+        return false;
+      }
+      bd->Clic(v[2]);
+    } else if (!bd->EstEdit(v[2])) {
+      erreur = "la barre n'a pas de champ " + m[3];
+      return false;
+    } else if (e == "type") {
+      bd->Tape(v[2], reste(4));
+    } else {
+      bd->Entree(v[2], reste(4));
+    }
+  } else if ((e == "barclick" && (m.size() == 3 || (m.size() == 4 && m[3] == "shift"))) ||
+             ((e == "baresc" || e == "bar") && m.size() == 3)) {
+    if (!entiers(1, 2, v)) {
+      erreur = "événement inconnu ou mal formé « " + ligne + " »";
+      return false;
+    }
+    TBD* bd = Barre(v[0], v[1], erreur);
+    if (!bd) return false;
+    if (e == "barclick")
+      bd->ClicFond(m.size() == 4);
+    else if (e == "baresc")
+      bd->Echap();  // the bar may be gone after this
+    else
+      MontreBarre(v[0], v[1], *bd);
   } else if (e == "state" && m.size() == 1) {
     Etat(cadre);
   } else if (e == "answer" && m.size() == 2 && (m[1] == "ok" || m[1] == "cancel")) {
