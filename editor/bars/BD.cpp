@@ -18,6 +18,11 @@ TBD::TBD(TElt* elt) : pElt(elt) {
   Textes[IDC_NOM] = "Nom :";
 }
 
+// The widget goes with the bar, never after it.
+TBD::~TBD() {
+  if (Vue) Vue->Detruite();
+}
+
 std::string TBD::GetDlgItemText(int id) const {
   const auto i = Textes.find(id);
   return i == Textes.end() ? std::string() : i->second;
@@ -28,6 +33,7 @@ void TBD::SetLectureSeule(int id, bool oui) {
     LectureSeule.insert(id);
   else
     LectureSeule.erase(id);
+  Signale(id);
 }
 
 void TBD::SetActif(int id, bool oui) {
@@ -35,6 +41,7 @@ void TBD::SetActif(int id, bool oui) {
     Inactifs.erase(id);
   else
     Inactifs.insert(id);
+  Signale(id);
 }
 
 std::set<int> TBD::Controles() const {
@@ -54,7 +61,10 @@ TColor TBD::CouleurNom() const {
   return c == TColor::Black ? TColor::Gray : c;
 }
 
-void TBD::MAJColor() { CouleurLabel = CouleurNom(); }
+void TBD::MAJColor() {
+  CouleurLabel = CouleurNom();
+  Signale(IDC_NOM);
+}
 
 void TBD::SetupWindow() {
   MAJColor();

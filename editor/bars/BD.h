@@ -37,6 +37,18 @@ inline constexpr int HAUTEUR_BD_DEFAUT = 18;
 // An edit takes ten characters with its terminator: nine typed ones.
 inline constexpr std::size_t LONGUEUR_SAISIE_BD = 9;
 
+// What a bar tells the widget that shows it. The bar keeps every value; the widget reads
+// them back, so that it shows what the bar says and holds no state of its own.
+class TVueBD {
+public:
+  virtual ~TVueBD() = default;
+  // The text or the read-only or enabled state of control id changed; 0 for the background,
+  // the place or the visibility of the whole bar.
+  virtual void Change(int id) = 0;
+  // The bar is being destroyed: the widget must let go of it now.
+  virtual void Detruite() = 0;
+};
+
 // The bar as a logic object: what its fields say, which of them take typing, and what a
 // change of each does to the element. A view shows it on the screen and hands it the user's
 // gestures through Tape, Entree, Clic, ClicFond and Echap; the command-line companion runs
@@ -44,20 +56,24 @@ inline constexpr std::size_t LONGUEUR_SAISIE_BD = 9;
 class TBD {
 public:
   explicit TBD(TElt* elt);
-  virtual ~TBD() = default;
+  virtual ~TBD();
   TBD(const TBD&) = delete;
   TBD& operator=(const TBD&) = delete;
 
-  virtual void SetDlgItemText(int id, const std::string& texte) { Textes[id] = texte; }
+  virtual void SetDlgItemText(int id, const std::string& texte) {
+    Textes[id] = texte;
+    Signale(id);
+  }
   std::string GetDlgItemText(int id) const;
   // Shows the bar at y in the strip, at its present size and in its place among the windows.
   virtual void Place(int y) {
     Y = y;
     Visible = true;
+    Signale(0);
   }
   virtual int Hauteur() const { return HauteurBarre; }
   // Takes c as the background and repaints the bar.
-  virtual void SetCouleurFond(TColor) {}
+  virtual void SetCouleurFond(TColor) { Signale(0); }
   // An edit that takes no typing still shows its value and still runs its handler.
   virtual void SetLectureSeule(int id, bool oui);
   // A disabled button takes no click.
@@ -115,6 +131,7 @@ public:
   bool Visible = false;             // created hidden, shown by the first placing
   int HauteurBarre = HAUTEUR_BD_DEFAUT;
   int Focus = 0;                    // the control that has the focus, 0 for none
+  TVueBD* Vue = nullptr;            // the widget that shows the bar, if any
 
 protected:
   void AjouteEdit(int id) { Edits.insert(id); }
@@ -137,6 +154,9 @@ protected:
   // x and y of the elements that take their point from the one before them.
   void PointLectureSeule();
   static void Bip();
+  void Signale(int id) {
+    if (Vue) Vue->Change(id);
+  }
 
 private:
   std::map<int, std::string> Textes;

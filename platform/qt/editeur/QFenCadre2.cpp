@@ -4,6 +4,7 @@
 #include "editor/MenuEditeur.h"
 #include "platform/qt/Cadre.h"
 #include "platform/qt/Gadgets.h"
+#include "platform/qt/editeur/QBande.h"
 #include "platform/qt/editeur/QFeuille.h"
 
 #include <QAction>
@@ -44,13 +45,7 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   onglets_->setUsesScrollButtons(true);
   onglets_->setDrawBase(false);
   feuille_ = new QFeuille(client_);
-  bande_ = new QWidget(client_);
-  bande_->setObjectName(QStringLiteral("bande"));
-  QPalette blanc = bande_->palette();
-  blanc.setColor(QPalette::Window, Qt::white);
-  bande_->setPalette(blanc);
-  bande_->setAutoFillBackground(true);
-  bande_->installEventFilter(this);
+  bande_ = new QBande(cadre_.pFenListe, client_);
   setCentralWidget(client_);
 
   cadre_.SetVue(this);
@@ -64,7 +59,12 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   new TPlacementCadre(this, QRect(20, 20, 600, 600));
 }
 
-QFenCadre2::~QFenCadre2() { cadre_.SetVue(nullptr); }
+QFenCadre2::~QFenCadre2() {
+  cadre_.SetVue(nullptr);
+  // The bars' widgets go while the sheets their elements draw on are still there.
+  delete bande_;
+  bande_ = nullptr;
+}
 
 QAction* QFenCadre2::NouvelleAction(unsigned id, const char* texte) {
   auto* a = new QAction(QString::fromUtf8(texte), this);
@@ -133,12 +133,11 @@ void QFenCadre2::CreeBarre() {
 
 bool QFenCadre2::eventFilter(QObject* objet, QEvent* evenement) {
   if (objet == client_ && evenement->type() == QEvent::Resize) Dispose();
-  // A click on the strip's free background shows where it is scrolled to.
-  if (objet == bande_ && evenement->type() == QEvent::MouseButtonPress) cadre_.pFenListe->EvLButtonDown();
   return QMainWindow::eventFilter(objet, evenement);
 }
 
 void QFenCadre2::Dispose() {
+  if (!bande_) return;
   // The control bar and the status bar are Qt's own, outside the client area.
   cadre_.SetHauteurs(0, onglets_->sizeHint().height(), 0);
   cadre_.EvSize(client_->width(), client_->height());
@@ -182,7 +181,9 @@ void QFenCadre2::Textes() {
 
 void QFenCadre2::Focus() { feuille_->setFocus(Qt::OtherFocusReason); }
 
-void QFenCadre2::Barres() { bande_->update(); }
+void QFenCadre2::Barres() {
+  if (bande_) bande_->Barres();
+}
 
 void QFenCadre2::closeEvent(QCloseEvent* evenement) {
   if (!cadre_.CanClose()) {

@@ -11,6 +11,7 @@
 #include <map>
 
 class QAction;
+class QBande;
 class QFeuille;
 class QLabel;
 class QTabBar;
@@ -25,7 +26,7 @@ public:
   // The widget of the active sheet.
   QFeuille* Feuille() const { return feuille_; }
   QTabBar* Onglets_() const { return onglets_; }
-  QWidget* Bande() const { return bande_; }
+  QBande* Bande() const { return bande_; }
   // The action of a command, for tests.
   QAction* Action(unsigned id) const;
   QLabel* GadgetPosition() const { return position_; }
@@ -54,7 +55,7 @@ private:
   QWidget* client_ = nullptr;
   QTabBar* onglets_ = nullptr;
   QFeuille* feuille_ = nullptr;
-  QWidget* bande_ = nullptr;
+  QBande* bande_ = nullptr;
   QLabel* position_ = nullptr;
   QLabel* synchro_ = nullptr;
   std::map<unsigned, QAction*> actions_;
