@@ -6,7 +6,12 @@
 #include "Attente.h"
 #include "app/App.h"
 #include "editor/FenDessin.h"
+#include "editor/bars/BD.h"
+#include "files/Ecriture.h"
+#include "model/Elt.h"
 #include "model/Document.h"
+#include "platform/qt/editeur/QBande.h"
+#include "platform/qt/editeur/QBarre.h"
 #include "platform/qt/editeur/QFeuille.h"
 #include "support/Attendu.h"
 
@@ -14,6 +19,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QFileDialog>
+#include <QImage>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTest>
@@ -133,6 +139,49 @@ TEST_F(EditeurTest, AKiteDrawnWithTheMouseIsSavedAsTheReplayOfTheSameGesturesSav
   EXPECT_EQ(sauve, LitTout(dossier / "rejeu.rou"));
   // Two segments, the axel, the arc, after the start point.
   for (const char* ligne : {"POINT", "SEGMENT", "AXEL", "ARC"}) EXPECT_NE(sauve.find(ligne), std::string::npos) << ligne;
+}
+
+// Typing into a bar on the screen changes the element, its picture on the sheet and what is
+// saved, as dragging its end point would.
+TEST_F(EditeurTest, AnXTypedIntoABarMovesTheElementOnTheSheetAndIntoTheFile) {
+  const fs::path routine = dossier / "barres.rou";
+  std::ofstream(routine) << "TEAM   1 \n"
+                            "POINT\t0\t0\t2\t1\t0\t-80\t20\t0.4\n"
+                            "SEGMENT\t0\t1\t2\t1\t300\t-30\t20\t0.4\n"
+                            "SEGMENT\t0\t2\t2\t1\t600\t0\t60\t0.4\n";
+  app->Ouvre(routine.string());
+  ASSERT_NE(TabLElt[0].Premier(), nullptr);
+  auto* segment = static_cast<TElt*>(TabLElt[0].Premier()->GetSuivant());
+  ASSERT_NE(segment, nullptr);
+  ASSERT_NE(segment->pBD, nullptr);
+  ASSERT_FLOAT_EQ(segment->Getp2Param().x, -30);
+  QBarre* barre = nullptr;
+  ASSERT_TRUE(AttendQue([&] {
+    barre = app->Editeur()->Bande()->Barre(segment->pBD);
+    return barre && barre->isVisible();
+  }));
+  auto* x = qobject_cast<QLineEdit*>(barre->Controle(IDC_X));
+  ASSERT_NE(x, nullptr);
+  EXPECT_EQ(x->text(), QStringLiteral("-30"));
+
+  // No window manager activates the window: it is asked for, then the edit is given the focus.
+  QWidget* fenetre = app->Editeur();
+  fenetre->activateWindow();
+  ASSERT_TRUE(AttendQue([&] { return fenetre->isActiveWindow(); }));
+  ASSERT_TRUE(AttendQue([&] { return feuille->grab().toImage() == feuille->grab().toImage(); }));
+  const QImage avant = feuille->grab().toImage();
+  x->setFocus(Qt::OtherFocusReason);
+  ASSERT_TRUE(AttendQue([&] { return x->hasFocus(); }));
+  x->selectAll();
+  QTest::keyClicks(x, QStringLiteral("-55"));
+  QTest::keyClick(x, Qt::Key_Tab);
+  EXPECT_FALSE(x->hasFocus());
+  EXPECT_FLOAT_EQ(segment->Getp2Param().x, -55);
+  EXPECT_TRUE(AttendQue([&] { return feuille->grab().toImage() != avant; }));
+
+  const std::string texte = TexteRoutine();
+  EXPECT_NE(texte.find("-55"), std::string::npos) << texte;
+  EXPECT_EQ(texte.find("-30"), std::string::npos) << texte;
 }
 
 }  // namespace
