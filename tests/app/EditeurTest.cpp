@@ -7,7 +7,6 @@
 #include "app/App.h"
 #include "editor/FenDessin.h"
 #include "editor/bars/BD.h"
-#include "files/Ecriture.h"
 #include "model/Elt.h"
 #include "model/Document.h"
 #include "platform/qt/editeur/QBande.h"
@@ -179,7 +178,9 @@ TEST_F(EditeurTest, AnXTypedIntoABarMovesTheElementOnTheSheetAndIntoTheFile) {
   EXPECT_FLOAT_EQ(segment->Getp2Param().x, -55);
   EXPECT_TRUE(AttendQue([&] { return feuille->grab().toImage() != avant; }));
 
-  const std::string texte = TexteRoutine();
+  // "E&nregistrer" writes over the routine opened.
+  app->Editeur()->Action(250)->trigger();
+  const std::string texte = LitTout(routine);
   EXPECT_NE(texte.find("-55"), std::string::npos) << texte;
   EXPECT_EQ(texte.find("-30"), std::string::npos) << texte;
 }

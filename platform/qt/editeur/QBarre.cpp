@@ -127,10 +127,22 @@ QFont PoliceBarre() {
 
 }  // namespace
 
-// An edit of a bar: its value is taken when it loses the focus and on Enter.
-class QBarre::Edit : public QLineEdit {
+// The name label: its text on the kite's colour.
+class QBarre::TStaticCoul : public QLabel {
 public:
-  Edit(QBarre* barre, int id) : QLineEdit(barre), barre_(barre), id_(id) {
+  explicit TStaticCoul(QWidget* parent) : QLabel(parent) { setAutoFillBackground(true); }
+  void SetColor(TColor c) {
+    QPalette p = palette();
+    p.setColor(QPalette::Window, Qt_(c));
+    p.setColor(QPalette::WindowText, Qt::black);
+    setPalette(p);
+  }
+};
+
+// An edit of a bar: its value is taken when it loses the focus and on Enter.
+class QBarre::TEditTBD : public QLineEdit {
+public:
+  TEditTBD(QBarre* barre, int id) : QLineEdit(barre), barre_(barre), id_(id) {
     setMaxLength(static_cast<int>(LONGUEUR_SAISIE_BD));
   }
 
@@ -231,8 +243,7 @@ void QBarre::Construit() {
     if (!ids.count(item.id)) continue;
     QWidget* w = nullptr;
     if (item.id == IDC_NOM) {
-      auto* nom = new QLabel(this);
-      nom->setAutoFillBackground(true);
+      auto* nom = new TStaticCoul(this);
       nom->setGeometry(x, bord, l, PxY(8));
       w = nom;
     } else if (bd_->EstBouton(item.id)) {
@@ -246,7 +257,7 @@ void QBarre::Construit() {
       });
       w = bouton;
     } else {
-      auto* edit = new Edit(this, item.id);
+      auto* edit = new TEditTBD(this, item.id);
       edit->setGeometry(x, bord, l, PxY(9));
       w = edit;
     }
@@ -293,12 +304,9 @@ void QBarre::Change(int id) {
   }
   QWidget* w = Controle(id);
   const QString texte = QString::fromStdString(bd_->GetDlgItemText(id));
-  if (auto* nom = qobject_cast<QLabel*>(w)) {
+  if (auto* nom = dynamic_cast<TStaticCoul*>(w)) {
     nom->setText(texte);
-    QPalette p = nom->palette();
-    p.setColor(QPalette::Window, Qt_(bd_->CouleurNom()));
-    p.setColor(QPalette::WindowText, Qt::black);
-    nom->setPalette(p);
+    nom->SetColor(bd_->CouleurNom());
   } else if (auto* bouton = qobject_cast<QPushButton*>(w)) {
     bouton->setText(texte);
     bouton->setEnabled(bd_->EstActif(id));

@@ -38,7 +38,8 @@ protected:
   bool focusNextPrevChild(bool suivant) override;
 
 private:
-  class Edit;
+  class TEditTBD;
+  class TStaticCoul;
   // Dialog units to pixels, from the font as the dialog manager measures it.
   int PxX(int du) const;
   int PxY(int du) const;
