@@ -8,7 +8,6 @@
 // controls on standard output as `BAR K:I ID="TEXT"...`. A bar that is not open is a usage
 // error.
 #include <cstdio>
-#include <deque>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -27,80 +26,12 @@
 #include "model/Elt.h"
 #include "platform/DCJournal.h"
 #include "platform/Dialogues.h"
+#include "DialoguesScript.h"
 
 namespace {
 
 constexpr int LARGEUR_DEPART = 880;
 constexpr int HAUTEUR_BANDE = 200;  // the strip under the sheets, which nothing here shows
-
-enum class TIssue { Continue, Illisible, Usage };
-
-// One queued answer to a dialog: its kind ("ok", "cancel", "file", "texte") and its text.
-struct TReponseScript {
-  std::string Genre;
-  std::string Texte;
-};
-
-// The dialogs of a replay: they say what they show on standard error and take their answers
-// from the script's queue. A dialog with no answer waiting is cancelled.
-class TDialoguesRejeu : public TDialogues {
-public:
-  TReponse MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons, TIcone) override {
-    std::fprintf(stderr, "%s: %s\n", titre.c_str(), texte.c_str());
-    if (boutons == TBoutons::OK) return TReponse::OK;  // nothing to choose
-    const std::optional<TReponseScript> r = Prend({"ok", "cancel"});
-    if (!r || r->Genre == "cancel") return boutons == TBoutons::OKAnnuler ? TReponse::Annuler : TReponse::Non;
-    return boutons == TBoutons::OKAnnuler ? TReponse::OK : TReponse::Oui;
-  }
-  void MessageBeep(int) override { std::fprintf(stderr, "beep\n"); }
-  void MessageStatut(const std::string& texte) override {
-    // The editor's errors carry their own mark, "!!!! ".
-    if (texte.rfind("!!!! ", 0) == 0)
-      std::fprintf(stderr, "%s\n", texte.c_str());
-    else
-      std::fprintf(stderr, "status: %s\n", texte.c_str());
-  }
-  std::optional<std::string> FichierAOuvrir(TDialogueFichier&) override {
-    const std::optional<std::string> chemin = Fichier();
-    // An open dialog only returns a file that is there.
-    std::error_code erreur;
-    if (chemin && !std::filesystem::is_regular_file(*chemin, erreur)) {
-      Message = "impossible de lire « " + *chemin + " »";
-      Issue = TIssue::Illisible;
-      return std::nullopt;
-    }
-    return chemin;
-  }
-  std::optional<std::string> FichierAEnregistrer(TDialogueFichier&) override { return Fichier(); }
-  std::optional<std::string> Saisie(const std::string&, const std::string&, const std::string&) override {
-    const std::optional<TReponseScript> r = Prend({"texte", "cancel"});
-    if (!r || r->Genre == "cancel") return std::nullopt;
-    return r->Texte;
-  }
-  void SetCurseur(TCurseur) override {}
-
-  std::deque<TReponseScript> Reponses;
-  TIssue Issue = TIssue::Continue;
-  std::string Message;
-
-private:
-  std::optional<std::string> Fichier() {
-    const std::optional<TReponseScript> r = Prend({"file", "cancel"});
-    if (!r || r->Genre == "cancel") return std::nullopt;
-    return r->Texte;
-  }
-  // The next answer if it is of one of the kinds; a wrong kind stops the replay.
-  std::optional<TReponseScript> Prend(std::initializer_list<const char*> genres) {
-    if (Reponses.empty() || Issue != TIssue::Continue) return std::nullopt;
-    TReponseScript r = Reponses.front();
-    Reponses.pop_front();
-    for (const char* g : genres)
-      if (r.Genre == g) return r;
-    Message = "réponse « " + r.Genre + " » inattendue pour ce dialogue";
-    Issue = TIssue::Usage;
-    return std::nullopt;
-  }
-};
 
 // What stands for the window: as on the screen, a sheet that was invalidated is painted
 // before the next event comes, and painting an arc fixes its end point from its data.
@@ -175,7 +106,7 @@ bool Entier(const std::string& s, int& n) {
 }
 
 // Runs one line of the script; false with `erreur` set for a usage error.
-bool Evenement(const std::string& ligne, TFenCadre2& cadre, TDialoguesRejeu& dialogues, std::string& erreur) {
+bool Evenement(const std::string& ligne, TFenCadre2& cadre, TDialoguesScript& dialogues, std::string& erreur) {
   std::istringstream flux(ligne);
   std::vector<std::string> m;
   for (std::string mot; flux >> mot;) m.push_back(mot);
@@ -258,10 +189,11 @@ bool Evenement(const std::string& ligne, TFenCadre2& cadre, TDialoguesRejeu& dia
       MontreBarre(v[0], v[1], *bd);
   } else if (e == "state" && m.size() == 1) {
     Etat(cadre);
-  } else if (e == "answer" && m.size() == 2 && (m[1] == "ok" || m[1] == "cancel")) {
-    dialogues.Reponses.push_back({m[1], ""});
-  } else if (e == "answer" && m.size() >= 3 && (m[1] == "file" || m[1] == "texte")) {
-    dialogues.Reponses.push_back({m[1], reste(2)});
+  } else if (e == "answer") {
+    if (!dialogues.Ajoute(std::vector<std::string>(m.begin() + 1, m.end()), reste(2), erreur)) {
+      erreur += " « " + ligne + " »";
+      return false;
+    }
   } else {
     erreur = "événement inconnu ou mal formé « " + ligne + " »";
     return false;
@@ -292,7 +224,7 @@ int Rejoue(const std::vector<std::string>& args) {
     return 1;
   }
 
-  TDialoguesRejeu dialogues;
+  TDialoguesScript dialogues;
   SetDialogues(&dialogues);
   struct Restaure {
     ~Restaure() { SetDialogues(nullptr); }

@@ -2,6 +2,7 @@
 #include "editor/FenDessin.h"
 #include "model/Document.h"
 #include "model/Elt.h"
+#include "platform/Dialogues.h"
 
 void TFenDessin::MAJUnDo() {
   for (int k = 0; k < nbCV; ++k) {
@@ -13,3 +14,5 @@ void TFenDessin::MAJUnDo() {
       if (auto* e = static_cast<TElt*>(n); e->pFen == this) copie.Append(e->Copie(&TabLElt[k], true));
   }
 }
+
+void TFenDessin::Undo() { Dialogues().MessageStatut("- Commande pas encore disponible dans cette version -"); }

@@ -52,14 +52,11 @@ void TFenDessin::Trt_Menu(unsigned id) {
         Printer->Print(Imp, true);
       }
       break;
-    case 260:
-    case 261:
-    case 333:
-    case 336:
-    case 337:
-      // Sheet export, file insertion, undo, copy and paste are not in this version yet.
-      Statut("- Commande pas encore disponible dans cette version -");
-      break;
+    case 260: EnregistrerFeuille(); break;
+    case 261: OuvrirFeuille(); break;
+    case 333: Undo(); break;
+    case 336: Copier(); break;
+    case 337: Coller(); break;
     case 301: CommandeDessin(id, "- Segment -"); break;
     case 305: CommandeDessin(id, "- Arc -"); break;
     case 309: CommandeDessin(id, "- Dérapage -"); break;

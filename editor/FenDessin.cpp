@@ -20,6 +20,9 @@ TImpression TFenDessin::Imp;
 std::unique_ptr<TImprimante> TFenDessin::Printer;
 TPoint TFenDessin::PointClic;
 TPoint TFenDessin::DernierePosition;
+ParamTBDColler TFenDessin::ParamColler;
+ParamTBDFeuille TFenDessin::ParamFeuille;
+ParamTBDInsererFic TFenDessin::ParamInsererFic;
 
 void TFenDessin::ReinitialiseStatiques() {
   EchIE = 1.0f;
@@ -37,6 +40,9 @@ void TFenDessin::ReinitialiseStatiques() {
   Printer.reset();
   PointClic = TPoint();
   DernierePosition = TPoint();
+  ParamColler = ParamTBDColler();
+  ParamFeuille = ParamTBDFeuille();
+  ParamInsererFic = ParamTBDInsererFic();
 }
 
 TFenDessin::TFenDessin(TFenCadre2* cadre, TFenListe* liste, int num)

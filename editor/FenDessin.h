@@ -7,6 +7,9 @@
 #include <string_view>
 
 #include "editor/Impression.h"
+#include "editor/boites/BDColler.h"
+#include "editor/boites/BDFeuille.h"
+#include "editor/boites/BDInsererFic.h"
 #include "editor/Imprimante.h"
 #include "model/Types.h"
 #include "platform/Dialogues.h"
@@ -60,8 +63,13 @@ public:
   void CloseBD();
   // Rebuilds the tab labels from this sheet on, from the times of the first kite.
   void MetAJourOnglets();
-  // The undo copy of this sheet's elements (Annulation.cpp).
+  // The undo copy of this sheet's elements, and its exchange with them (Annulation.cpp).
   void MAJUnDo();
+  void Undo();
+  // The selected range into the copy buffer, and the buffer after the current element,
+  // transformed as the paste dialog says (Collage.cpp).
+  void Copier();
+  void Coller();
 
   // The file commands (Fichiers.cpp).
   void Ouvrir();
@@ -71,6 +79,10 @@ public:
   void EnregistrerSous();
   void EnregistrerSelection();
   void OuvrirMusique();
+  // A range of sheets as a routine of its own, and a routine inserted after this sheet
+  // (files/Feuilles.cpp).
+  void EnregistrerFeuille();
+  void OuvrirFeuille();
   // The client area of the window, in device pixels, as the view last laid it out.
   void SetTailleClient(int largeur, int hauteur) { TailleClient = TSize{largeur, hauteur}; }
 
@@ -147,6 +159,11 @@ public:
   static TImpression Imp;
   // Made by the first sheet, with A4 paper and the editor's margins; Imp prints through it.
   static std::unique_ptr<TImprimante> Printer;
+
+  // The last settings of the paste, export and insertion dialogs.
+  static ParamTBDColler ParamColler;
+  static ParamTBDFeuille ParamFeuille;
+  static ParamTBDInsererFic ParamInsererFic;
 
   static TPoint PointClic;  // previous position of a drag, whole logical units
   static TPoint DernierePosition;  // last mouse position, whole logical units

@@ -6,6 +6,9 @@
 #include <string>
 
 struct TDonneesImprimante;
+class TBD_Coller;
+class TBD_Feuille;
+class TBD_InsererFic;
 
 enum class TBoutons { OK, OKAnnuler, OuiNon, OuiNonAnnuler };
 enum class TIcone { Aucune, Information, Question, Avertissement, Erreur };
@@ -44,6 +47,12 @@ public:
   // one to ask, they accept the settings as they are, as the first button would.
   virtual bool Impression(TDonneesImprimante&) { return true; }
   virtual bool MiseEnPage(TDonneesImprimante&) { return true; }
+  // The editor's own dialog boxes. The box shows the controls of bd as its SetupWindow left
+  // them, hands the user's OK to bd.CloseWindow(1) and stays open while that refuses. True
+  // when it closes on OK; with no one to ask, they are cancelled.
+  virtual bool Execute(TBD_Coller&) { return false; }
+  virtual bool Execute(TBD_Feuille&) { return false; }
+  virtual bool Execute(TBD_InsererFic&) { return false; }
 };
 
 // Answers every box with its first button and writes what it was asked to standard error:
