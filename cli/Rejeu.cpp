@@ -27,6 +27,7 @@
 #include "platform/DCJournal.h"
 #include "platform/Dialogues.h"
 #include "DialoguesScript.h"
+#include "EditeurScript.h"
 
 namespace {
 
@@ -93,16 +94,6 @@ void MontreBarre(int k, int i, const TBD& bd) {
   }
   std::printf("\n");
   std::fflush(stdout);
-}
-
-bool Entier(const std::string& s, int& n) {
-  std::size_t fin = 0;
-  try {
-    n = std::stoi(s, &fin);
-  } catch (...) {
-    return false;
-  }
-  return fin == s.size();
 }
 
 // Runs one line of the script; false with `erreur` set for a usage error.

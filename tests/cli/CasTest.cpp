@@ -4,8 +4,10 @@
 // then "(code N)" when the exit status is not 0. A sample case takes its time T from its name,
 // NAME@T.rou. A replay case, NAME.rep (with NAME.rou as --in when there is one), runs in a
 // copy of its folder, so that its dialogs may write there: the OUT file, "----", both streams
-// in their order, the code, then each file new or changed in the copy. TRAJ_REGENERE=1
-// rewrites the expected files (tests/data/README.md).
+// in their order, the code, then each file new or changed in the copy. A case of commandes/,
+// NAME.cmd, holds the arguments of one command, OUT standing for the file it writes, and runs
+// and reports as a replay does. TRAJ_REGENERE=1 rewrites the expected files
+// (tests/data/README.md).
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -13,6 +15,7 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -31,10 +34,11 @@ void PrintTo(const TCas& c, std::ostream* os) { *os << c.Commande << " " << c.Ro
 
 std::vector<TCas> Cas() {
   std::vector<TCas> cas;
-  for (const std::string commande : {"resave", "solve", "keys", "sample", "replay"}) {
+  for (const std::string commande : {"resave", "solve", "keys", "sample", "replay", "commandes"}) {
+    const char* extension = commande == "replay" ? ".rep" : commande == "commandes" ? ".cmd" : ".rou";
     std::vector<fs::path> routines;
     for (const auto& e : fs::directory_iterator(fs::path(TRAJ_CAS) / commande))
-      if (e.path().extension() == (commande == "replay" ? ".rep" : ".rou")) routines.push_back(e.path());
+      if (e.path().extension() == extension) routines.push_back(e.path());
     std::sort(routines.begin(), routines.end());
     for (const fs::path& r : routines) cas.push_back({commande, r});
   }
@@ -61,14 +65,12 @@ protected:
     return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
   }
 
-  // The script runs in a copy of its folder; what it wrote or changed there is shown after it.
-  std::string Rejoue(const fs::path& script) {
-    const fs::path source = script.parent_path();
+  // The command runs in a copy of the case's folder; what it wrote or changed there is shown
+  // after it.
+  std::string EnCopie(const fs::path& cas, const std::vector<std::string>& arguments) {
+    const fs::path source = cas.parent_path();
     const fs::path copie = dossier / "copie";
     fs::copy(source, copie);
-    std::vector<std::string> arguments = {"replay", script.filename().string(), (dossier / "out.rou").string()};
-    if (fs::path entree = script; fs::exists(entree.replace_extension(".rou")))
-      arguments.insert(arguments.end(), {"--in", entree.filename().string()});
     const int code = Lance(arguments, copie, true);
     std::string obtenu = LitTout(dossier / "out.rou") + "----\n" + LitTout(dossier / "sortie");
     if (code != 0) obtenu += "(code " + std::to_string(code) + ")\n";
@@ -88,7 +90,19 @@ TEST_P(CasTest, GivesItsExpectedFile) {
   const TCas& c = GetParam();
   fs::path attendu = c.Routine;
   attendu.replace_extension(".attendu");
-  if (c.Commande == "replay") return CompareAvecAttendu(Rejoue(c.Routine), attendu, dossier / "obtenu");
+  const std::string out = (dossier / "out.rou").string();
+  if (c.Commande == "replay") {
+    std::vector<std::string> arguments = {"replay", c.Routine.filename().string(), out};
+    if (fs::path entree = c.Routine; fs::exists(entree.replace_extension(".rou")))
+      arguments.insert(arguments.end(), {"--in", entree.filename().string()});
+    return CompareAvecAttendu(EnCopie(c.Routine, arguments), attendu, dossier / "obtenu");
+  }
+  if (c.Commande == "commandes") {
+    std::istringstream ligne(LitTout(c.Routine));
+    std::vector<std::string> arguments;
+    for (std::string mot; ligne >> mot;) arguments.push_back(mot == "OUT" ? out : mot);
+    return CompareAvecAttendu(EnCopie(c.Routine, arguments), attendu, dossier / "obtenu");
+  }
   const std::string nom = c.Routine.stem().string();
   const bool fichier = c.Commande == "resave" || c.Commande == "solve";
   std::vector<std::string> arguments = {c.Commande, c.Routine.filename().string()};

@@ -1,0 +1,1 @@
+exporte entree.rou 1 2 OUT
