@@ -97,6 +97,7 @@ int Echantillon(const std::vector<std::string>& args) {
 
 int Peins(const std::vector<std::string>& args);  // cli/Peinture.cpp
 int Rejoue(const std::vector<std::string>& args);  // cli/Rejeu.cpp
+int Colle(const std::vector<std::string>& args);   // cli/Collage.cpp
 #ifdef TRAJ_AVEC_RENDU
 int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
 int Imprime(const std::vector<std::string>& args);  // cli/Impression.cpp, where Qt's PDF writer is
@@ -118,6 +119,10 @@ const std::vector<TCommande>& Commandes() {
        "l'éditeur sans écran : deux feuilles et un cerf-volant (ou, avec --in IN, la routine IN ouverte), "
        "les événements de SCRIPT, puis OUT écrit comme « E&nregistrer »",
        Rejoue},
+      {"paste", "IN K FIRST LAST TK TARGET MODE SHIFT OUT",
+       "relit IN, copie les éléments FIRST à LAST du cerf-volant K, les colle après l'élément TARGET du "
+       "cerf-volant TK (MODE 551 à 555, SHIFT en centièmes), écrit OUT",
+       Colle},
 #ifdef TRAJ_AVEC_RENDU
       {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1)",
        Rend},

@@ -1,6 +1,66 @@
-// Copy and paste of a selected range.
+// Copy and paste of a selected range. The copy keeps the shape and the times of the range;
+// the paste puts it after the current element, moved or mirrored as the dialog says.
+#include <utility>
+
+#include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
+#include "model/Document.h"
+#include "model/Elt.h"
+#include "model/Outils.h"
 #include "platform/Dialogues.h"
 
-void TFenDessin::Copier() { Dialogues().MessageStatut("- Commande pas encore disponible dans cette version -"); }
-void TFenDessin::Coller() { Dialogues().MessageStatut("- Commande pas encore disponible dans cette version -"); }
+namespace {
+// Fresh copies, without links, of the elements from `premier` to `dernier`, into `liste`.
+void CopiePlage(TListeCV& liste, TElt* premier, TElt* dernier) {
+  liste.Vide();
+  for (TElt* e = premier; e; e = e == dernier ? nullptr : e->GetEltSuivant()) liste.Append(e->Copie(&liste, false));
+}
+}  // namespace
+
+void TFenDessin::Copier() {
+  if (!pEltCourant2 || !pEltCourant) {
+    MessageErreur("Sélection Vide");
+    return;
+  }
+  CopiePlage(*Tampon, pEltCourant2, pEltCourant);
+  // A range never starts at a track's first element, so there is always one before it.
+  if (TElt* avant = pEltCourant2->GetEltPrecedent()) PointDebutTampon = avant->Getp2Param();
+}
+
+void TFenDessin::Coller() {
+  if (Tampon->IsVide()) {
+    MessageErreur("Coller impossible : Tampon vide");
+    return;
+  }
+  if (!pEltCourant) {
+    MessageErreur("Coller impossible : pas d'élément sélectionné");
+    return;
+  }
+  MAJUnDo();
+  TBD_Coller bd(&ParamColler);
+  bd.SetupWindow();
+  if (!Dialogues().Execute(bd)) return;
+  // The range lands on the current element's sheet and kite, whatever its source. This is
+  // done before the spare copy is taken, because the sheet the range was copied from may
+  // have been removed since.
+  for (TNoeud* n = Tampon->Premier(); n; n = n->GetSuivant()) {
+    auto* e = static_cast<TElt*>(n);
+    e->pListeCV = pEltCourant->pListeCV;
+    e->SetpFen(pEltCourant->pFen);
+  }
+  CopiePlage(*Tampon2, static_cast<TElt*>(Tampon->Premier()), static_cast<TElt*>(Tampon->Dernier()));
+  auto* premier = static_cast<TElt*>(Tampon->Premier());
+  auto* dernier = static_cast<TElt*>(Tampon->Dernier());
+  const TPointf c = pEltCourant->Getp2Param();
+  // The first pasted element anchors the range in time; the others keep their constraints.
+  premier->Contrainte = CONTRAINTE_TEMPS;
+  premier->Sett2Param(static_cast<float>(Tronque(premier->Gett2Param() + static_cast<float>(ParamColler.Decalage))));
+  pEltCourant->pListeCV->InsereListe(*Tampon, pEltCourant->GetSuivant());
+  for (TElt* e = premier; e; e = e == dernier ? nullptr : e->GetEltSuivant()) e->Transforme(PointDebutTampon, c, ParamColler.Mode);
+  for (TElt* e = premier; e; e = e == dernier ? nullptr : e->GetEltSuivant()) e->OpenBD();
+  std::swap(Tampon, Tampon2);
+  pEltCourant2 = premier;
+  pEltCourant = dernier;
+  MiseAJourVTotale();
+  RetraceTout();
+}

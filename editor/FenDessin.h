@@ -187,6 +187,8 @@ private:
   void AjoutCV(TDC& dc);
   // Gives up the element being drawn, if any: true when one was removed.
   bool AbandonneEnCours(TDC& dc);
+  // The whole sheet painted again, the strip laid out again, the tabs' labels refreshed.
+  void RetraceTout();
   // Writes the routine to chemin; false, with the message, when it can't be written.
   bool EcritRoutine(const std::string& chemin);
 };

@@ -33,6 +33,11 @@ public:
   void Translate(int dx, int dy, bool AvecDebut) override { TranslateDroit(dx, dy, AvecDebut); }
   void Transforme(TPointf Origine, TPointf Destination, int Mode) override;
   TElt* Copie(TListeCV* l, bool Lien) override;
+  // The inner elements follow the figure to its sheet and kite.
+  void SetpFen(TFenDessin* fen) override {
+    pFen = fen;
+    RattacheInterieur();
+  }
   // Places the inner elements at the end of the previous element and at its time, then
   // hands all but the first, which only anchors them, to the flight generator.
   void DirectX() override;

@@ -1,0 +1,1 @@
+paste coller.rou 0 1 7 0 7 553 0 OUT

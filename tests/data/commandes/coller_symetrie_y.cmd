@@ -1,0 +1,1 @@
+paste coller.rou 0 1 7 0 7 554 0 OUT
