@@ -61,26 +61,29 @@ void TFenDessin::Ouvrir() {
 }
 
 void TFenDessin::Ouvrir(const std::string& chemin) {
+  // This sheet may be one of those the new routine does without: once they go, only the
+  // frame is used.
+  TFenCadre2* const cadre = pFenCadre;
   Curseur(TCurseur::Attente);
   CopieChemin(FichierRoutine, sizeof FichierRoutine, chemin);
-  if (pFenCadre) pFenCadre->SetTitre("Dessin Trajectoires : " + chemin);
+  if (cadre) cadre->SetTitre("Dessin Trajectoires : " + chemin);
   pEltSynchro = nullptr;
   // The document is emptied first: a file that can't be read leaves an empty routine.
-  const bool lu = pFenCadre && LitRoutine(*pFenCadre, chemin);
+  const bool lu = cadre && LitRoutine(*cadre, chemin);
   if (lu) {
     if (pFenListe) pFenListe->RetraceBD();
-    pFenCadre->SetClientFenDes();
-    pFenCadre->pFenDesActive->OpenBD();
+    cadre->SetClientFenDes();
+    cadre->pFenDesActive->OpenBD();
     Demo();
     // The sheets of the previous routine go; one empty sheet stays after the last used.
-    while (pFenCadre->nbFeuilles > NbFenDesOuvertes + 1) {
-      const int avant = pFenCadre->nbFeuilles;
-      pFenCadre->SupprFeuille(avant - 1);
-      if (pFenCadre->nbFeuilles == avant) break;
+    while (cadre->nbFeuilles > NbFenDesOuvertes + 1) {
+      const int avant = cadre->nbFeuilles;
+      cadre->SupprFeuille(avant - 1);
+      if (cadre->nbFeuilles == avant) break;
     }
   }
   Curseur(TCurseur::Fleche);
-  if (pFenCadre) pFenCadre->Focus();
+  if (cadre) cadre->Focus();
   if (pFenDes0) pFenDes0->MetAJourOnglets();
 }
 
