@@ -104,7 +104,8 @@ W* Controle(QWidget* boite, int id) {
 void Clique(QRadioButton* r) {
   QStyleOptionButton option;
   option.initFrom(r);
-  QTest::mouseClick(r, Qt::LeftButton, {}, r->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, r).center());
+  const QRect rond = r->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, r);
+  QTest::mouseClick(r, Qt::LeftButton, {}, rond.center());
 }
 
 void Tape(QLineEdit* e, const char* texte) {
