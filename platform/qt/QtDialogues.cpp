@@ -1,6 +1,9 @@
 #include "platform/qt/QtDialogues.h"
 
 #include "platform/qt/editeur/Curseurs.h"
+#include "platform/qt/editeur/QBoiteColler.h"
+#include "platform/qt/editeur/QBoiteFeuille.h"
+#include "platform/qt/editeur/QBoiteInsererFic.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -153,6 +156,15 @@ bool TQtDialogues::MiseEnPage(TDonneesImprimante& donnees) {
   donnees.Paysage = page.Paysage;
   donnees.Marges = page.Marges;
   return true;
+}
+
+// Each box judges its own OK and stays open while its TBD refuses it.
+bool TQtDialogues::Execute(TBD_Coller& bd) { return QBoiteColler(bd, parent_).exec() == QDialog::Accepted; }
+
+bool TQtDialogues::Execute(TBD_Feuille& bd) { return QBoiteFeuille(bd, parent_).exec() == QDialog::Accepted; }
+
+bool TQtDialogues::Execute(TBD_InsererFic& bd) {
+  return QBoiteInsererFic(bd, parent_).exec() == QDialog::Accepted;
 }
 
 void TQtDialogues::RetireAttente() {

@@ -1,7 +1,8 @@
 #pragma once
 // The dialogs of the real application: Qt's message box, file, input, print and page setup
-// dialogs, the editor's status bar and the mouse cursor. While it is the one in use, print
-// jobs go to Qt's printers and PDF files, the ones its print dialog offers.
+// dialogs, the editor's own boxes, the editor's status bar and the mouse cursor. While it
+// is the one in use, print jobs go to Qt's printers and PDF files, the ones its print
+// dialog offers.
 #include "platform/Dialogues.h"
 #include "platform/qt/ImprimanteQt.h"
 
@@ -36,6 +37,9 @@ public:
   void SetCurseur(TCurseur curseur) override;
   bool Impression(TDonneesImprimante& donnees) override;
   bool MiseEnPage(TDonneesImprimante& donnees) override;
+  bool Execute(TBD_Coller& bd) override;
+  bool Execute(TBD_Feuille& bd) override;
+  bool Execute(TBD_InsererFic& bd) override;
 
 private:
   void RetireAttente();

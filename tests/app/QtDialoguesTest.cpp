@@ -1,12 +1,24 @@
 #include <gtest/gtest.h>
 
 #include "Attente.h"
+#include "editor/boites/BDColler.h"
+#include "editor/boites/BDFeuille.h"
+#include "editor/boites/BDInsererFic.h"
 #include "platform/qt/QtDialogues.h"
+#include "platform/qt/editeur/QBoiteColler.h"
+#include "platform/qt/editeur/QBoiteFeuille.h"
+#include "platform/qt/editeur/QBoiteInsererFic.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QStyleOptionButton>
+#include <QTest>
 #include <QTimer>
 #include <functional>
 
@@ -75,6 +87,157 @@ TEST(FiltreQt, TwoColumnFiltersBecomeQtFilters) {
   EXPECT_EQ(FiltreQt("Musique|*.wav;*.mp3"), QStringLiteral("Musique (*.wav *.mp3)"));
   EXPECT_EQ(FiltreQt("Modèles 3D (*.x *.3ds)"), QStringLiteral("Modèles 3D (*.x *.3ds)"));
   EXPECT_EQ(FiltreQt("Vide|"), QString());
+}
+
+// The editor's boxes, driven as the user would: clicks on the controls named by their ids,
+// typing, then OK or Annuler.
+
+template <class W>
+W* Controle(QWidget* boite, int id) {
+  W* w = boite->findChild<W*>(QString::number(id));
+  EXPECT_NE(w, nullptr) << "contrôle " << id;
+  return w;
+}
+
+// On the round button itself: a radio button stretched by its layout does not answer
+// clicks past its text.
+void Clique(QRadioButton* r) {
+  QStyleOptionButton option;
+  option.initFrom(r);
+  const QRect rond = r->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, r);
+  QTest::mouseClick(r, Qt::LeftButton, {}, rond.center());
+}
+
+void Tape(QLineEdit* e, const char* texte) {
+  e->selectAll();
+  QTest::keyClicks(e, QString::fromUtf8(texte));
+}
+
+void Bouton(QWidget* boite, QDialogButtonBox::StandardButton b) {
+  QTest::mouseClick(boite->findChild<QDialogButtonBox*>()->button(b), Qt::LeftButton);
+}
+
+// Runs `geste` on the box of type D once open; a box a failed step left open is closed.
+template <class D>
+void Pilote(std::function<void(D*)> geste) {
+  QuandOuvert<D>([geste](D* d) {
+    geste(d);
+    if (d->isVisible()) d->reject();
+  });
+}
+
+TEST(BoitesEditeur, PasteTakesTheClickedModeAndTypedShiftOnOKAndNothingOnCancel) {
+  TQtDialogues dialogues;
+  ParamTBDColler p;
+  p.Decalage = 40;
+  TBD_Coller bd(&p);
+  bd.SetupWindow();
+  bool parallelesMontre = false;
+  QString decalageMontre;
+  Pilote<QBoiteColler>([&](QBoiteColler* b) {
+    parallelesMontre = Controle<QRadioButton>(b, 552)->isChecked();
+    decalageMontre = Controle<QLineEdit>(b, 556)->text();
+    Clique(Controle<QRadioButton>(b, 554));
+    Tape(Controle<QLineEdit>(b, 556), "-25");
+    Bouton(b, QDialogButtonBox::Ok);
+  });
+  EXPECT_TRUE(dialogues.Execute(bd));
+  EXPECT_TRUE(parallelesMontre);
+  EXPECT_EQ(decalageMontre, QStringLiteral("40"));
+  EXPECT_EQ(p.Mode, 554);
+  EXPECT_EQ(p.Decalage, -25);
+
+  bd.SetupWindow();
+  Pilote<QBoiteColler>([&](QBoiteColler* b) {
+    Clique(Controle<QRadioButton>(b, 551));
+    Tape(Controle<QLineEdit>(b, 556), "7");
+    Bouton(b, QDialogButtonBox::Cancel);
+  });
+  EXPECT_FALSE(dialogues.Execute(bd));
+  EXPECT_EQ(p.Mode, 554);
+  EXPECT_EQ(p.Decalage, -25);
+}
+
+TEST(BoitesEditeur, EnteringAnEditOfTheRangeChoosesTheRangeWhichOKKeeps) {
+  TQtDialogues dialogues;
+  ParamTBDFeuille p;
+  p.Tout = true;
+  p.Feuilles = false;
+  TBD_Feuille bd(&p);
+  bd.SetupWindow();
+  bool toutAOuverture = false, feuillesApresEntree = false, toutApresEntree = true;
+  Pilote<QBoiteFeuille>([&](QBoiteFeuille* b) {
+    // No window manager activates the box, and an inactive one gets no focus events.
+    b->activateWindow();
+    ASSERT_TRUE(AttendQue([&] { return b->isActiveWindow(); }));
+    QRadioButton* tout = Controle<QRadioButton>(b, 573);
+    QRadioButton* feuilles = Controle<QRadioButton>(b, 574);
+    QLineEdit* premiere = Controle<QLineEdit>(b, 570);
+    toutAOuverture = tout->isChecked();
+    QTest::mouseClick(premiere, Qt::LeftButton);
+    feuillesApresEntree = feuilles->isChecked();
+    toutApresEntree = tout->isChecked();
+    Tape(premiere, "3");
+    Tape(Controle<QLineEdit>(b, 571), "5");
+    Bouton(b, QDialogButtonBox::Ok);
+  });
+  EXPECT_TRUE(dialogues.Execute(bd));
+  EXPECT_TRUE(toutAOuverture);
+  EXPECT_TRUE(feuillesApresEntree);
+  EXPECT_FALSE(toutApresEntree);
+  EXPECT_FALSE(p.Tout);
+  EXPECT_TRUE(p.Feuilles);
+  EXPECT_EQ(p.Premiere, 3);
+  EXPECT_EQ(p.Derniere, 5);
+}
+
+TEST(BoitesEditeur, InsertionShowsOnlyTheDocumentsKitesAndStaysOpenOnARefusedOK) {
+  TQtDialogues dialogues;
+  SetDialogues(&dialogues);  // the box's refusals speak through it
+  struct Remet {
+    ~Remet() { SetDialogues(nullptr); }
+  } remet;
+  ParamTBDInsererFic p;
+  p.NbCVFichier = 3;
+  TBD_InsererFic bd(&p, 2);
+  bd.SetupWindow();
+  bool cv2Montre = false, cv3Montre = true, libelle3Montre = true, ouverteApresRefus = false;
+  int xApresRefus = -1;
+  QString message;
+  Pilote<QBoiteInsererFic>([&](QBoiteInsererFic* b) {
+    cv2Montre = Controle<QLineEdit>(b, 592)->isVisible();
+    cv3Montre = Controle<QLineEdit>(b, 593)->isVisible();
+    libelle3Montre = Controle<QLabel>(b, 603)->isVisible();
+    Clique(Controle<QRadioButton>(b, 585));
+    Tape(Controle<QLineEdit>(b, 582), "150");
+    Tape(Controle<QLineEdit>(b, 591), "2");
+    Tape(Controle<QLineEdit>(b, 592), "1");
+    Tape(Controle<QLineEdit>(b, 584), "-100");
+    Tape(Controle<QLineEdit>(b, 583), "101");
+    QuandOuvert<QMessageBox>([&](QMessageBox* m) {
+      message = m->text();
+      m->button(QMessageBox::Ok)->click();
+    });
+    Bouton(b, QDialogButtonBox::Ok);
+    ouverteApresRefus = b->isVisible();
+    xApresRefus = p.DecalageX;
+    Tape(Controle<QLineEdit>(b, 583), "100");
+    Bouton(b, QDialogButtonBox::Ok);
+  });
+  EXPECT_TRUE(dialogues.Execute(bd));
+  EXPECT_TRUE(cv2Montre);
+  EXPECT_FALSE(cv3Montre);
+  EXPECT_FALSE(libelle3Montre);
+  EXPECT_EQ(message, QStringLiteral("Décalage en x hors limites !!!"));
+  EXPECT_TRUE(ouverteApresRefus);
+  EXPECT_EQ(xApresRefus, 0);
+  EXPECT_EQ(p.DecalageX, 100);
+  EXPECT_EQ(p.DecalageY, -100);
+  EXPECT_FALSE(p.Conserver);
+  EXPECT_TRUE(p.Decaler);
+  EXPECT_EQ(p.Temps, 150);
+  EXPECT_EQ(p.Correspondance[0], 2);
+  EXPECT_EQ(p.Correspondance[1], 1);
 }
 
 }  // namespace
