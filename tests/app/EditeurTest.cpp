@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "Attente.h"
+#include "Boites.h"
 #include "app/App.h"
 #include "editor/FenDessin.h"
 #include "editor/bars/BD.h"
@@ -11,6 +12,7 @@
 #include "model/Document.h"
 #include "platform/qt/editeur/QBande.h"
 #include "platform/qt/editeur/QBarre.h"
+#include "platform/qt/editeur/QBoiteColler.h"
 #include "platform/qt/editeur/QFeuille.h"
 #include "support/Attendu.h"
 
@@ -75,6 +77,21 @@ protected:
     QTest::mousePress(feuille, Qt::LeftButton, Qt::NoModifier, p);
     QTest::mouseRelease(feuille, Qt::LeftButton, Qt::NoModifier, p);
     script << "down " << p.x() << " " << p.y() << "\nup " << p.x() << " " << p.y() << "\n";
+  }
+  void CliqueMaj(float x, float y) {
+    QTest::mousePress(feuille, Qt::LeftButton, Qt::ShiftModifier, Ecran(x, y));
+    QTest::mouseRelease(feuille, Qt::LeftButton, Qt::ShiftModifier, Ecran(x, y));
+  }
+  // The companion run on files of the test's folder; true when it wrote OUT.
+  bool Compagnon(const std::string& arguments) {
+    const std::string commande = "cd " + Cite(dossier.string()) + " && " + Cite(TRAJ_CLI) + " " + arguments + " 2>/dev/null";
+    return std::system(commande.c_str()) == 0;
+  }
+  // The same routine twice: one for the window, one for the companion.
+  fs::path Routine(const char* nom, const char* texte) {
+    std::ofstream(dossier / (std::string(nom) + ".rou")) << texte;
+    std::ofstream(dossier / (std::string(nom) + "-source.rou")) << texte;
+    return dossier / (std::string(nom) + ".rou");
   }
   void Echap() {
     QTest::keyClick(feuille, Qt::Key_Escape);
@@ -183,6 +200,33 @@ TEST_F(EditeurTest, AnXTypedIntoABarMovesTheElementOnTheSheetAndIntoTheFile) {
   const std::string texte = LitTout(routine);
   EXPECT_NE(texte.find("-55"), std::string::npos) << texte;
   EXPECT_EQ(texte.find("-30"), std::string::npos) << texte;
+}
+
+// A range copied, then pasted with a mirror chosen by the mouse in the real dialog: what the
+// window saves is what the companion's paste writes for the same choices.
+TEST_F(EditeurTest, APasteWithAMirrorChosenInTheDialogIsTheCompanionsPaste) {
+  const fs::path routine = Routine("coller", "TEAM   1 \n"
+                                             "POINT\t0\t0\t2\t1\t0\t-80\t20\t0.4\n"
+                                             "SEGMENT\t0\t1\t2\t1\t300\t-30\t20\t0.4\n"
+                                             "SEGMENT\t0\t2\t3\t1\t600\t-20\t50\t0.4\n"
+                                             "SEGMENT\t0\t3\t2\t1\t900\t10\t40\t0.4\n");
+  app->Ouvre(routine.string());
+  // The sheet knows its scale once painted.
+  ASSERT_TRUE(AttendQue([&] { return feuille->Feuille()->EchelleX != 0; }));
+  Clique(-30, 20);
+  CliqueMaj(-20, 50);
+  app->Editeur()->Action(336)->trigger();
+  Clique(10, 40);
+  Pilote<QBoiteColler>([](QBoiteColler* b) {
+    ::Clique(Controle<QRadioButton>(b, 553));
+    Tape(Controle<QLineEdit>(b, 556), "250");
+    Bouton(b, QDialogButtonBox::Ok);
+  });
+  app->Editeur()->Action(337)->trigger();
+  EXPECT_EQ(TabLElt[0].nbNoeud(), 6);
+  app->Editeur()->Action(250)->trigger();
+  ASSERT_TRUE(Compagnon("paste coller-source.rou 0 1 2 0 3 553 250 compagnon.rou"));
+  EXPECT_EQ(LitTout(routine), LitTout(dossier / "compagnon.rou"));
 }
 
 }  // namespace
