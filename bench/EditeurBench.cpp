@@ -8,6 +8,11 @@
 //
 // Opening: a routine of 6 kites of 20,000 elements over 100 sheets, from Ouvrir(path) to
 // the first sheet painted, 1366 pixels wide.
+//
+// Undo, in that routine, on sheet 50: the copy that each grabbing click takes (MAJUnDo),
+// and Undo itself, which alternates between the two states. Paste: 100 elements of kite 2
+// copied once, then pasted after the last element of kite 2, parallel, with the whole
+// document solved again after each paste as the command does; one iteration is one paste.
 #include <benchmark/benchmark.h>
 
 #include <QGuiApplication>
@@ -267,5 +272,68 @@ void BM_OuvrirPremierePeinture(benchmark::State& state) {
   editeur.reset();
 }
 BENCHMARK(BM_OuvrirPremierePeinture)->Arg(10)->Arg(0)->Iterations(3)->Unit(benchmark::kMillisecond);
+
+// The large routine open, its sheet 50 the active one.
+struct TEditeurOuvert {
+  TEditeurOuvert(TDialogues& d, const TRoutine& r) : fichier(r), editeur(d) {
+    editeur.cadre.pFenDesActive->Ouvrir(fichier.chemin);
+    editeur.cadre.TabSelChange(49);
+  }
+  TFenDessin& Feuille() { return *editeur.cadre.pFenDesActive; }
+  TFichierRoutine fichier;
+  TEditeur editeur;
+};
+
+int CompteCopie() {
+  int n = 0;
+  for (int k = 0; k < nbCV; ++k) n += AncTabLElt[k].nbNoeud();
+  return n;
+}
+
+void BM_MAJUnDo(benchmark::State& state) {
+  TDialoguesMuets muets;
+  TEditeurOuvert ouvert(muets, TRoutine{20000, 100, 10});
+  for (auto _ : state) ouvert.Feuille().MAJUnDo();
+  state.counters["copie"] = CompteCopie();
+  if (CompteCopie() == 0) state.SkipWithError("sheet 50 holds nothing");
+}
+BENCHMARK(BM_MAJUnDo)->Unit(benchmark::kMillisecond);
+
+void BM_Undo(benchmark::State& state) {
+  TDialoguesMuets muets;
+  TEditeurOuvert ouvert(muets, TRoutine{20000, 100, 10});
+  TFenDessin& f = ouvert.Feuille();
+  f.MAJUnDo();
+  const int copie = CompteCopie();
+  for (auto _ : state) f.Undo();
+  state.counters["copie"] = copie;
+  if (copie == 0 || CompteCopie() != copie) state.SkipWithError("undo did not give back the sheet");
+}
+BENCHMARK(BM_Undo)->Unit(benchmark::kMillisecond);
+
+// Answers the paste dialog with its settings as they stand.
+class TDialoguesColler : public TDialoguesMuets {
+public:
+  bool Execute(TBD_Coller& bd) override { return bd.CloseWindow(1); }
+};
+
+void BM_Coller(benchmark::State& state) {
+  TDialoguesColler dialogues;
+  TEditeurOuvert ouvert(dialogues, TRoutine{static_cast<int>(state.range(0)), 4, 10});
+  TFenDessin& f = ouvert.Feuille();
+  TFenDessin::pEltCourant2 = Element(CV_CIBLE, 1);
+  TFenDessin::pEltCourant = Element(CV_CIBLE, 100);
+  f.Copier();
+  const int avant = TabLElt[CV_CIBLE].nbNoeud();
+  for (auto _ : state) {
+    TFenDessin::pEltCourant2 = nullptr;
+    TFenDessin::pEltCourant = static_cast<TElt*>(TabLElt[CV_CIBLE].Dernier());
+    f.Coller();
+  }
+  const int colles = TabLElt[CV_CIBLE].nbNoeud() - avant;
+  state.counters["colles"] = colles;
+  if (colles != 100 * static_cast<int>(state.iterations())) state.SkipWithError("a paste did not land");
+}
+BENCHMARK(BM_Coller)->Arg(1000)->Iterations(50)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -94,7 +94,10 @@ void TListe::Supprime() {
 }
 
 void TListe::Supprime(TNoeud* n) {
-  if (Existe(n)) Supprime();
+  // A node knows its list, so a long track is not walked to find it.
+  if (!n || n == pDebut || n == pFin || n->GetpListe() != this) return;
+  pCourant = n;
+  Supprime();
 }
 
 void TListe::Vide() {
