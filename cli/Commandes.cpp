@@ -98,6 +98,8 @@ int Echantillon(const std::vector<std::string>& args) {
 int Peins(const std::vector<std::string>& args);  // cli/Peinture.cpp
 int Rejoue(const std::vector<std::string>& args);  // cli/Rejeu.cpp
 int Colle(const std::vector<std::string>& args);   // cli/Collage.cpp
+int Exporte(const std::vector<std::string>& args);  // cli/Feuilles.cpp
+int Insere(const std::vector<std::string>& args);   // cli/Feuilles.cpp
 #ifdef TRAJ_AVEC_RENDU
 int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
 int Imprime(const std::vector<std::string>& args);  // cli/Impression.cpp, where Qt's PDF writer is
@@ -123,6 +125,13 @@ const std::vector<TCommande>& Commandes() {
        "relit IN, copie les éléments FIRST à LAST du cerf-volant K, les colle après l'élément TARGET du "
        "cerf-volant TK (MODE 551 à 555, SHIFT en centièmes), écrit OUT",
        Colle},
+      {"export", "IN FIRST LAST OUT",
+       "relit IN, écrit ses feuilles FIRST à LAST dans OUT comme « Enregistrer &feuilles sous... »", Exporte},
+      {"insert", "IN FILE AFTER OUT",
+       "relit IN, insère la routine FILE après sa feuille AFTER comme « In&sérer fichier après feuille "
+       "active ... », écrit OUT (--times keep|calc|N, défaut keep ; --dx N, --dy N, défaut 0 ; "
+       "--map a,b,c,d,e,f : le CV i prend le CV map[i] du fichier, défaut 1,2,3,4,5,6)",
+       Insere},
 #ifdef TRAJ_AVEC_RENDU
       {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1)",
        Rend},

@@ -14,7 +14,8 @@ void Aide(std::FILE* sortie) {
                "Outils en ligne de commande pour les routines (.rou) et figures (.fig).\n"
                "Les figures citées par une routine sont cherchées par leur nom, dans le dossier courant.\n"
                "Les messages de l'éditeur vont sur la sortie d'erreur ; code de sortie 0 si OUT est écrit,\n"
-               "1 si IN ne peut être lu ou OUT écrit, 2 pour une erreur d'usage.\n\n"
+               "1 si un fichier ne peut être lu ou écrit ou si l'éditeur refuse l'opération, 2 pour une\n"
+               "erreur d'usage.\n\n"
                "Commandes :\n");
   for (const TCommande& c : Commandes())
     std::fprintf(sortie, "  %-8s %-20s %s\n", c.Nom.c_str(), c.Usage.c_str(), c.Resume.c_str());

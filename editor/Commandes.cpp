@@ -18,11 +18,6 @@
 #include "platform/Dialogues.h"
 
 namespace {
-void Curseur(TCurseur c) {
-  TFenDessin::CursorType = c;
-  Dialogues().SetCurseur(c);
-}
-
 void Statut(const std::string& texte) { Dialogues().MessageStatut(texte); }
 
 // Each file dialog remembers its own last file from one use to the next.
@@ -77,13 +72,13 @@ void TFenDessin::Trt_Menu(unsigned id) {
     case 330:
       Echap();
       if (PreleveSynchro()) {
-        Curseur(TCurseur::Carre);
+        SetCurseur(TCurseur::Carre);
         Statut("- Synchronisation - Cliquez les éléments à synchroniser");
         Fonction = FONCTION_AJOUT_SYNCHRO;
       }
       break;
     case 331:
-      Curseur(TCurseur::CarreCroix);
+      SetCurseur(TCurseur::CarreCroix);
       Statut("- Cliquez les synchronisations à supprimer");
       Fonction = FONCTION_SUPPR_SYNCHRO;
       break;
@@ -134,7 +129,7 @@ bool TFenDessin::AbandonneEnCours(TDC& dc) {
 }
 
 void TFenDessin::CommandeDessin(unsigned id, const char* statut) {
-  Curseur(TCurseur::Croix);
+  SetCurseur(TCurseur::Croix);
   Statut(statut);
   TDCClient dc(*this);
   SetEchelle(dc);
@@ -187,7 +182,7 @@ void TFenDessin::AjoutCV(TDC& dc) {
     return;
   nCV = nbCV;
   ++nbCV;
-  Curseur(TCurseur::Fleche);
+  SetCurseur(TCurseur::Fleche);
   Statut("- Modification -");
   AbandonneEnCours(dc);
   pEltCourant = pEltCourant2 = nullptr;
@@ -196,7 +191,7 @@ void TFenDessin::AjoutCV(TDC& dc) {
 }
 
 void TFenDessin::Echap() {
-  Curseur(TCurseur::Fleche);
+  SetCurseur(TCurseur::Fleche);
   Statut("- Modification -");
   TDCClient dc(*this);
   SetEchelle(dc);

@@ -45,6 +45,11 @@ void TFenDessin::ReinitialiseStatiques() {
   ParamInsererFic = ParamTBDInsererFic();
 }
 
+void TFenDessin::SetCurseur(TCurseur c) {
+  CursorType = c;
+  Dialogues().SetCurseur(c);
+}
+
 TFenDessin::TFenDessin(TFenCadre2* cadre, TFenListe* liste, int num)
     : pFenCadre(cadre), pFenListe(liste), Num(num) {
   EchIE = 1.0f;

@@ -79,10 +79,10 @@ public:
   void EnregistrerSous();
   void EnregistrerSelection();
   void OuvrirMusique();
-  // A range of sheets as a routine of its own, and a routine inserted after this sheet
-  // (files/Feuilles.cpp).
-  void EnregistrerFeuille();
-  void OuvrirFeuille();
+  // A range of sheets as a routine of its own, and a routine inserted after the active sheet
+  // (files/Feuilles.cpp). True when the file was written, the routine inserted.
+  bool EnregistrerFeuille();
+  bool OuvrirFeuille();
   // The client area of the window, in device pixels, as the view last laid it out.
   void SetTailleClient(int largeur, int hauteur) { TailleClient = TSize{largeur, hauteur}; }
 
@@ -169,6 +169,8 @@ public:
   static TPoint DernierePosition;  // last mouse position, whole logical units
 
   static void ReinitialiseStatiques();
+  // The cursor of the sheets and of the frame.
+  static void SetCurseur(TCurseur c);
 
 private:
   // A hit test over the elements of this sheet in the order of the search (Souris.cpp).

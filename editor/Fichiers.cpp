@@ -1,7 +1,6 @@
 // The "&Fichier" commands: open a routine, save it, save it under a name, save the selection
 // as a figure, choose the music. Files are written whole or not at all (EcritFichier), so a
 // failed save keeps the previous file.
-#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -24,13 +23,6 @@ TDialogueFichier DialogueEnregistrer{"Enregistrer Fichier Routine",
                                      "fichiers routine ROU | *.rou|fichiers routine FIG | *.fig|", "rou", {}};
 TDialogueFichier DialogueSelection{"Enregistrer une Figure", "fichiers figures FIG | *.fig", "fig", {}};
 
-const char* const PROBLEME_ENREGISTREMENT =
-    "Problème d'enregistrement : vérifiez \n que le fichier n'est pas en 'lecture seule'!!! ";
-
-void Curseur(TCurseur c) {
-  TFenDessin::CursorType = c;
-  Dialogues().SetCurseur(c);
-}
 
 // A figure holds one track: a name whose text after its last point is exactly "fig" is
 // refused while the routine has several kites.
@@ -40,11 +32,6 @@ bool FigureRefusee(const std::string& chemin) {
     return false;
   Dialogues().MessageBox("Impossible : une figure ne peut contenir qu'une trajectoire", "Enregistrer figure");
   return true;
-}
-
-bool Existe(const std::string& chemin) {
-  std::error_code erreur;
-  return std::filesystem::exists(chemin, erreur);
 }
 
 void CopieChemin(char* cible, std::size_t taille, const std::string& chemin) {
@@ -64,7 +51,7 @@ void TFenDessin::Ouvrir(const std::string& chemin) {
   // This sheet may be one of those the new routine does without: once they go, only the
   // frame is used.
   TFenCadre2* const cadre = pFenCadre;
-  Curseur(TCurseur::Attente);
+  SetCurseur(TCurseur::Attente);
   CopieChemin(FichierRoutine, sizeof FichierRoutine, chemin);
   if (cadre) cadre->SetTitre("Dessin Trajectoires : " + chemin);
   pEltSynchro = nullptr;
@@ -82,7 +69,7 @@ void TFenDessin::Ouvrir(const std::string& chemin) {
       if (cadre->nbFeuilles == avant) break;
     }
   }
-  Curseur(TCurseur::Fleche);
+  SetCurseur(TCurseur::Fleche);
   if (cadre) cadre->Focus();
   if (pFenDes0) pFenDes0->MetAJourOnglets();
 }
@@ -106,7 +93,7 @@ void TFenDessin::Enregistrer() {
 void TFenDessin::EnregistrerSous() {
   if (const std::optional<std::string> chemin = Dialogues().FichierAEnregistrer(DialogueEnregistrer);
       chemin && !FigureRefusee(*chemin) &&
-      (!Existe(*chemin) || Dialogues().MessageBox("fichier existe : écraser ? ", "Enregistrer routine",
+      (!FichierExiste(*chemin) || Dialogues().MessageBox("fichier existe : écraser ? ", "Enregistrer routine",
                                                   TBoutons::OKAnnuler) == TReponse::OK)) {
     // The name is kept even when the file can't be written: the next save tries it again.
     CopieChemin(FichierRoutine, sizeof FichierRoutine, *chemin);
@@ -135,7 +122,7 @@ void TFenDessin::EnregistrerSelection() {
     return;
   }
   const std::optional<std::string> chemin = Dialogues().FichierAEnregistrer(DialogueSelection);
-  if (!chemin || (Existe(*chemin) && Dialogues().MessageBox("fichier existe : écraser ? ", "Enregistrer Figure",
+  if (!chemin || (FichierExiste(*chemin) && Dialogues().MessageBox("fichier existe : écraser ? ", "Enregistrer Figure",
                                                             TBoutons::OKAnnuler) != TReponse::OK))
     return;
   // The figure starts at its own point, at time 0; the point is not part of the document.

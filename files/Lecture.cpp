@@ -220,9 +220,12 @@ void TFenDessin::CreeElement(std::string_view ligne, TListeCV* pListe) {
 void TFenDessin::CreeElementInsere(const char* ligne, TListeCV* pTable) {
   TLigne l;
   if (!pFenCadre || !pTable || !LitElement(ligne, false, l)) return;
-  if (l.Feuille > NbFenDesOuvertes) {
-    NbFenDesOuvertes = l.Feuille;
-    pFenCadre->InsereFeuille();
+  // The file's sheets come after the active one, each new one becoming active. A number that
+  // jumps adds the sheets it skips, so that every line has its own sheet; NbFenDesOuvertes
+  // counts the sheets added, which a cancelled insertion removes.
+  while (NbFenDesOuvertes < l.Feuille) {
+    if (!pFenCadre->InsereFeuille()) return;  // the 200 sheets are in use: said already
+    ++NbFenDesOuvertes;
   }
   const int numFeuille = NumFActive + l.Feuille;
   if (numFeuille < 1 || numFeuille > pFenCadre->nbFeuilles) {

@@ -1,0 +1,1 @@
+export quatre.rou 3 4 OUT

@@ -1,0 +1,1 @@
+export quatre.rou 4 4 OUT

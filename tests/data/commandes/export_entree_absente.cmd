@@ -1,0 +1,1 @@
+export absente.rou 1 1 OUT

@@ -1,0 +1,1 @@
+export quatre.rou 5 5 OUT

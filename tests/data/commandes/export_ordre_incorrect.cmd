@@ -1,0 +1,1 @@
+export quatre.rou 3 2 OUT

@@ -1,0 +1,1 @@
+export quatre.rou 0 2 OUT

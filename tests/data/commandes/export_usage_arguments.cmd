@@ -1,0 +1,1 @@
+export quatre.rou 2 OUT

@@ -1,0 +1,1 @@
+insert sans_cv0.rou un.rou 1 OUT

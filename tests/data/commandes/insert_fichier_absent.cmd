@@ -1,0 +1,1 @@
+insert deux.rou absent.rou 1 OUT

@@ -1,0 +1,1 @@
+insert un.rou saut.rou 1 OUT

@@ -1,0 +1,1 @@
+insert deux.rou un.rou 1 OUT

@@ -1,0 +1,1 @@
+insert deux.rou synchro.rou 1 OUT --map
