@@ -13,6 +13,8 @@
 #include "platform/qt/editeur/QBande.h"
 #include "platform/qt/editeur/QBarre.h"
 #include "platform/qt/editeur/QBoiteColler.h"
+#include "platform/qt/editeur/QBoiteFeuille.h"
+#include "platform/qt/editeur/QBoiteInsererFic.h"
 #include "platform/qt/editeur/QFeuille.h"
 #include "support/Attendu.h"
 
@@ -87,6 +89,25 @@ protected:
     const std::string commande = "cd " + Cite(dossier.string()) + " && " + Cite(TRAJ_CLI) + " " + arguments + " 2>/dev/null";
     return std::system(commande.c_str()) == 0;
   }
+  // In the next file dialog, the user goes to the folder, types `nom` and clicks the button.
+  void RepondFichier(const char* nom) {
+    QuandOuvert<QFileDialog>([this, nom](QFileDialog* d) {
+      auto* edit = d->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+      ASSERT_NE(edit, nullptr);
+      // The completer's list would take the keys meant for the dialog.
+      edit->setCompleter(nullptr);
+      d->setDirectory(QString::fromStdString(dossier.string()));
+      edit->clear();
+      QTest::keyClicks(edit, QString::fromUtf8(nom));
+      // The dialog names its button after what the name typed so far designates.
+      QApplication::processEvents();
+      QPushButton* bouton = nullptr;
+      for (QPushButton* b : d->findChildren<QPushButton*>())
+        if (b->isDefault()) bouton = b;
+      ASSERT_NE(bouton, nullptr);
+      QTest::mouseClick(bouton, Qt::LeftButton);
+    });
+  }
   // The same routine twice: one for the window, one for the companion.
   fs::path Routine(const char* nom, const char* texte) {
     std::ofstream(dossier / (std::string(nom) + ".rou")) << texte;
@@ -124,25 +145,9 @@ TEST_F(EditeurTest, AKiteDrawnWithTheMouseIsSavedAsTheReplayOfTheSameGesturesSav
   Menu(304);
   EXPECT_EQ(app->Editeur()->Onglets_()->tabText(0).left(4), QStringLiteral("1 - "));
 
-  // In the real dialog, the user goes to the folder, types a name without its extension and
-  // clicks the button: the routine extension is added.
+  // A name typed without its extension: the routine extension is added.
   const fs::path fichier = dossier / "dessin.rou";
-  QuandOuvert<QFileDialog>([&](QFileDialog* d) {
-    auto* nom = d->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    ASSERT_NE(nom, nullptr);
-    // The completer's list would take the keys meant for the dialog.
-    nom->setCompleter(nullptr);
-    d->setDirectory(QString::fromStdString(dossier.string()));
-    nom->clear();
-    QTest::keyClicks(nom, QStringLiteral("dessin"));
-    // The dialog names its button after what the name typed so far designates.
-    QApplication::processEvents();
-    QPushButton* enregistrer = nullptr;
-    for (QPushButton* b : d->findChildren<QPushButton*>())
-      if (b->isDefault()) enregistrer = b;
-    ASSERT_NE(enregistrer, nullptr);
-    QTest::mouseClick(enregistrer, Qt::LeftButton);
-  });
+  RepondFichier("dessin");
   app->Editeur()->Action(249)->trigger();
   ASSERT_TRUE(fs::exists(fichier));
   EXPECT_EQ(app->Editeur()->windowTitle(), QString::fromStdString("Dessin Trajectoires : " + fichier.string()));
@@ -226,6 +231,61 @@ TEST_F(EditeurTest, APasteWithAMirrorChosenInTheDialogIsTheCompanionsPaste) {
   EXPECT_EQ(TabLElt[0].nbNoeud(), 6);
   app->Editeur()->Action(250)->trigger();
   ASSERT_TRUE(Compagnon("paste coller-source.rou 0 1 2 0 3 553 250 compagnon.rou"));
+  EXPECT_EQ(LitTout(routine), LitTout(dossier / "compagnon.rou"));
+}
+
+// Four sheets, two kites, a father on kite 0 and its child on kite 1, on sheets 2 and 3.
+const char* const QUATRE_FEUILLES = "TEAM   1 \n"
+                                    "POINT\t0\t0\t2\t1\t0\t-80\t20\t0.4\n"
+                                    "SEGMENT\t0\t1\t2\t1\t300\t-40\t20\t0.4\n"
+                                    "SEGMENT\t0\t2\t2\t2\t600\t-10\t50\t0.4\n"
+                                    "SEGMENT\t0\t3\t3\t3\t900\t20\t60\t0.4\n"
+                                    "SEGMENT\t0\t4\t2\t4\t1200\t50\t40\t0.4\n"
+                                    "POINT\t1\t5\t2\t1\t0\t80\t20\t0.4\n"
+                                    "SEGMENT\t1\t6\t3\t2\t300\t40\t40\t0.4\n"
+                                    "SEGMENT\t1\t7\t2\t2\t600\t30\t70\t0.4\t0\t2\n"
+                                    "SEGMENT\t1\t8\t3\t3\t900\t0\t80\t0.4\n";
+
+// Sheets 2 to 3 written through the export dialog, the range typed after a click into its
+// first edit, then the real save dialog: the companion's export for the same range.
+TEST_F(EditeurTest, TwoSheetsExportedThroughTheDialogsAreTheCompanionsExport) {
+  app->Ouvre(Routine("quatre", QUATRE_FEUILLES).string());
+  Pilote<QBoiteFeuille>([](QBoiteFeuille* b) {
+    b->activateWindow();
+    ASSERT_TRUE(AttendQue([&] { return b->isActiveWindow(); }));
+    QTest::mouseClick(Controle<QLineEdit>(b, 570), Qt::LeftButton);
+    Tape(Controle<QLineEdit>(b, 570), "2");
+    Tape(Controle<QLineEdit>(b, 571), "3");
+    Bouton(b, QDialogButtonBox::Ok);
+  });
+  RepondFichier("extrait");
+  app->Editeur()->Action(260)->trigger();
+  ASSERT_TRUE(fs::exists(dossier / "extrait.rou"));
+  ASSERT_TRUE(Compagnon("export quatre-source.rou 2 3 compagnon.rou"));
+  EXPECT_EQ(LitTout(dossier / "extrait.rou"), LitTout(dossier / "compagnon.rou"));
+  EXPECT_NE(LitTout(dossier / "extrait.rou").find("\t0\t1\n"), std::string::npos) << "the child keeps its father";
+}
+
+// A routine inserted after sheet 1 with the two kites crossed in the insertion dialog: the
+// saved routine is the companion's insertion with the same correspondence.
+TEST_F(EditeurTest, AnInsertionWithCrossedKitesIsTheCompanionsInsertion) {
+  std::ofstream(dossier / "piece.rou") << "TEAM   1 \n"
+                                          "POINT\t0\t0\t2\t1\t0\t-60\t60\t0.4\n"
+                                          "SEGMENT\t0\t1\t2\t1\t300\t-30\t60\t0.4\n"
+                                          "POINT\t1\t2\t2\t1\t0\t60\t60\t0.4\n"
+                                          "SEGMENT\t1\t3\t2\t1\t300\t30\t70\t0.4\t0\t1\n";
+  const fs::path routine = Routine("quatre", QUATRE_FEUILLES);
+  app->Ouvre(routine.string());
+  RepondFichier("piece.rou");
+  Pilote<QBoiteInsererFic>([](QBoiteInsererFic* b) {
+    Tape(Controle<QLineEdit>(b, 591), "2");
+    Tape(Controle<QLineEdit>(b, 592), "1");
+    Bouton(b, QDialogButtonBox::Ok);
+  });
+  app->Editeur()->Action(261)->trigger();
+  EXPECT_EQ(TabLElt[0].nbNoeud(), 7);
+  app->Editeur()->Action(250)->trigger();
+  ASSERT_TRUE(Compagnon("insert quatre-source.rou piece.rou 1 compagnon.rou --map 2,1"));
   EXPECT_EQ(LitTout(routine), LitTout(dossier / "compagnon.rou"));
 }
 
