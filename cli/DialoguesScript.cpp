@@ -48,48 +48,49 @@ std::optional<std::string> TDialoguesScript::Saisie(const std::string&, const st
 
 // Each of the editor's boxes takes answers until one passes its CloseWindow: a refused one
 // has shown its message and leaves the box open for the next.
-bool TDialoguesScript::Execute(TBD_Coller& bd) {
-  while (const std::optional<TReponseScript> r = Prend({"coller", "cancel"})) {
+template <class Boite, class Remplit>
+bool TDialoguesScript::Repond(const char* genre, Boite& bd, Remplit remplit) {
+  while (const std::optional<TReponseScript> r = Prend({genre, "cancel"})) {
     if (r->Genre == "cancel") return false;
-    const int mode = std::stoi(r->Mots[0]);
-    for (int id = TBD_Coller::ID_PREMIER_MODE; id <= TBD_Coller::ID_DERNIER_MODE; ++id)
-      bd.Coche[id - TBD_Coller::ID_PREMIER_MODE] = id == mode;
-    bd.Decalage = r->Mots[1];
+    remplit(r->Mots);
     if (bd.CloseWindow(1)) return true;
   }
   return false;
 }
 
+bool TDialoguesScript::Execute(TBD_Coller& bd) {
+  return Repond("coller", bd, [&](const std::vector<std::string>& mots) {
+    const int mode = std::stoi(mots[0]);
+    for (int id = TBD_Coller::ID_PREMIER_MODE; id <= TBD_Coller::ID_DERNIER_MODE; ++id)
+      bd.Coche[id - TBD_Coller::ID_PREMIER_MODE] = id == mode;
+    bd.Decalage = mots[1];
+  });
+}
+
 bool TDialoguesScript::Execute(TBD_Feuille& bd) {
-  while (const std::optional<TReponseScript> r = Prend({"feuilles", "cancel"})) {
-    if (r->Genre == "cancel") return false;
-    if (r->Mots.size() == 1) {
+  return Repond("feuilles", bd, [&](const std::vector<std::string>& mots) {
+    if (mots.size() == 1) {
       bd.Tout = true;
       bd.Feuilles = false;
     } else {
       bd.TrtFeuille();
-      bd.Premiere = r->Mots[0];
-      bd.Derniere = r->Mots[1];
+      bd.Premiere = mots[0];
+      bd.Derniere = mots[1];
     }
-    if (bd.CloseWindow(1)) return true;
-  }
-  return false;
+  });
 }
 
 bool TDialoguesScript::Execute(TBD_InsererFic& bd) {
-  while (const std::optional<TReponseScript> r = Prend({"inserer", "cancel"})) {
-    if (r->Genre == "cancel") return false;
-    const std::string& temps = r->Mots[0];
+  return Repond("inserer", bd, [&](const std::vector<std::string>& mots) {
+    const std::string& temps = mots[0];
     bd.Conserver = temps == "keep";
     bd.Calcul = temps == "calc";
     bd.Decaler = !bd.Conserver && !bd.Calcul;
     if (bd.Decaler) bd.Temps = temps;
-    bd.DecalageX = r->Mots[1];
-    bd.DecalageY = r->Mots[2];
-    for (int i = 0; i < NB_CV_MAX; ++i) bd.Correspondance[i] = r->Mots[3 + i];
-    if (bd.CloseWindow(1)) return true;
-  }
-  return false;
+    bd.DecalageX = mots[1];
+    bd.DecalageY = mots[2];
+    for (int i = 0; i < NB_CV_MAX; ++i) bd.Correspondance[i] = mots[3 + i];
+  });
 }
 
 bool TDialoguesScript::Ajoute(const std::vector<std::string>& mots, const std::string& texte, std::string& erreur) {

@@ -42,6 +42,9 @@ public:
 
 private:
   std::optional<std::string> Fichier();
+  // Answers of kind `genre` given to bd by `remplit` until its CloseWindow takes one.
+  template <class Boite, class Remplit>
+  bool Repond(const char* genre, Boite& bd, Remplit remplit);
   // The next answer if it is of one of the kinds; a wrong kind stops the run.
   std::optional<TReponseScript> Prend(std::initializer_list<const char*> genres);
 };
