@@ -7,7 +7,6 @@
 #include "editor/FenListe.h"
 #include "model/Document.h"
 #include "model/Elt.h"
-#include "platform/Dialogues.h"
 
 namespace {
 // The elements of `feuille` in track k, its start point left out: a kite's start point is
@@ -76,8 +75,7 @@ void TFenDessin::Undo() {
   Etape = 1;
   pEltCourant = pEltCourant2 = pEltSel = nullptr;
   RetraceTout();
-  CursorType = TCurseur::Fleche;
-  Dialogues().SetCurseur(TCurseur::Fleche);
+  SetCurseur(TCurseur::Fleche);
   if (pFenCadre) pFenCadre->Focus();
 }
 
