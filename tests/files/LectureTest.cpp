@@ -1,6 +1,6 @@
-// Reading routines into the editor's document: the links it builds, what a second opening
-// leaves of the first, and the insertion of a routine into another. What a routine reads
-// as, line by line, is in the companion's cases (tests/data/resave).
+// Reading routines into the editor's document: the links it builds and what a second opening
+// leaves of the first. What a routine reads as, line by line, is in the companion's cases
+// (tests/data/resave); an insertion, in its cases (tests/data/commandes).
 #include <gtest/gtest.h>
 
 #include "model/elements/Axel.h"
@@ -34,29 +34,6 @@ TEST_F(LectureTest, OpeningLinksTheChildAndEmptiesWhatThePreviousRoutineLeft) {
   EXPECT_FALSE(LitRoutine(*cadre, "nulle-part.rou"));
   EXPECT_TRUE(TabLElt[0].IsVide());  // emptied before the file was looked for
   EXPECT_FALSE(ChargementFichierEnCours);
-}
-
-TEST_F(LectureTest, InsertionStartsWithASegmentAndPlacesSheetsAfterTheActiveOne) {
-  cadre = std::make_unique<TFenCadre2>();
-  cadre->SetupWindow();
-  TFenDessin* fen = cadre->GetFeuille(0);
-  NumFActive = 1;
-  Team = 3;
-  TListeCV* table = AncTabLElt;  // any table of six tracks
-  fen->CreeElementInsere("TEAM   5 ", table);
-  fen->CreeElementInsere("POINT\t1\t0\t2\t1\t40\t\t5  5\t\t0.3\t\t", table);
-  fen->CreeElementInsere("SEGMENT\t1\t1\t2\t1\t90\t\t10  10\t\t0.3\t\t\t1\t0", table);
-  EXPECT_EQ(Team, 3);
-  EXPECT_EQ(nbCV, 1);
-  EXPECT_EQ(cadre->nbFeuilles, 3);
-  ASSERT_EQ(table[1].nbNoeud(), 2);
-  auto* debut = dynamic_cast<TSegment*>(static_cast<TElt*>(table[1].Premier()));
-  ASSERT_NE(debut, nullptr);
-  EXPECT_EQ(debut->Contrainte, CONTRAINTE_VCONSTANTE);
-  EXPECT_FLOAT_EQ(debut->Gett2Param(), 40);
-  EXPECT_FLOAT_EQ(debut->GetV(), 0.3f);
-  EXPECT_EQ(debut->pFen->Num, 2);                                     // the sheet after the active one
-  EXPECT_EQ(static_cast<TElt*>(table[1].Dernier())->pPere, nullptr);  // same kite: refused
 }
 
 }  // namespace

@@ -1,0 +1,1 @@
+insert un.rou equipe_musique.rou 1 OUT
