@@ -113,7 +113,7 @@ void TFenDessin::Trt_Menu(unsigned id) {
   }
 }
 
-bool TFenDessin::AbandonneEnCours(TDC& dc) {
+bool TFenDessin::AbandonneEnCours(TDC& dc, bool retracePrecedent) {
   if (!EstFonctionDessin(Fonction) || Etape != 3 || !pEltCourant) return false;
   // Detache clears every pointer that names the element, pEltCourant among them.
   TElt* const enCours = pEltCourant;
@@ -123,7 +123,7 @@ bool TFenDessin::AbandonneEnCours(TDC& dc) {
   enCours->Supprime();
   pEltCourant = nullptr;
   pEltSel = precedent;
-  if (precedent) precedent->Invalid(dc, true, 2);
+  if (precedent && retracePrecedent) precedent->Invalid(dc, true, 2);
   if (pFenListe) pFenListe->RetraceBD();
   return true;
 }
@@ -195,7 +195,7 @@ void TFenDessin::Echap() {
   Statut("- Modification -");
   TDCClient dc(*this);
   SetEchelle(dc);
-  if (AbandonneEnCours(dc)) pEltSel = nullptr;
+  if (AbandonneEnCours(dc, true)) pEltSel = nullptr;
   Fonction = FONCTION_MODIFICATION;
   Etape = 1;
 }

@@ -104,10 +104,7 @@ void TFenCadre2::SupprFeuille() {
 
 void TFenCadre2::SupprFeuille(int n) {
   if (n < 1 || n > nbFeuilles) return;
-  if (nbFeuilles < 2) {
-    TFenDessin::MessageErreur("suppression impossible : il faut au moins une feuille");
-    return;
-  }
+  // The selection is lost even when the sheet stays.
   TFenDessin::pEltCourant = TFenDessin::pEltCourant2 = TFenDessin::pEltSel = nullptr;
   TFenDessin* const feuille = GetFeuille(n - 1);
   for (int k = 0; k < NB_CV_MAX; ++k) {
@@ -116,6 +113,10 @@ void TFenCadre2::SupprFeuille(int n) {
       TFenDessin::MessageErreur("suppression impossible : début de trajectoire");
       return;
     }
+  }
+  if (nbFeuilles < 2) {
+    TFenDessin::MessageErreur("suppression impossible : il faut au moins une feuille");
+    return;
   }
   if (TFenDessin::pEltSynchro && TFenDessin::pEltSynchro->pFen == feuille) TFenDessin::pEltSynchro = nullptr;
   for (int k = 0; k < NB_CV_MAX; ++k)

@@ -188,7 +188,8 @@ private:
   void CommandeInsertion(TDC& dc, unsigned id);
   void AjoutCV(TDC& dc);
   // Gives up the element being drawn, if any: true when one was removed.
-  bool AbandonneEnCours(TDC& dc);
+  // Only Escape repaints the element before the one given up.
+  bool AbandonneEnCours(TDC& dc, bool retracePrecedent = false);
   // The whole sheet painted again, the strip laid out again, the tabs' labels refreshed.
   void RetraceTout();
   // Writes the routine to chemin; false, with the message, when it can't be written.

@@ -141,7 +141,8 @@ void TFenDessin::ClicModification(TDC& dc, unsigned flags, const TPoint& p) {
       return;
     }
   }
-  // A refused hit leaves the kite and the step as they were, and the search goes on.
+  // A refused hit leaves the step as it was, and the search goes on. The kite stays the hit
+  // one, unless an element is current: nCV is always the current element's kite.
   const int etape = Etape;
   const int kite = nCV;
   auto essaie = [&](TElt* e, int nouvelleEtape) {
@@ -149,7 +150,7 @@ void TFenDessin::ClicModification(TDC& dc, unsigned flags, const TPoint& p) {
     nCV = Kite(e);
     Etape = nouvelleEtape;
     if (ModifieSelection(dc, flags, e)) return true;
-    nCV = kite;
+    if (pEltCourant) nCV = kite;
     Etape = etape;
     return false;
   };
@@ -259,7 +260,7 @@ void TFenDessin::CreerElt(const TPoint& p) {
   if (!EstFonctionDessin(Fonction)) return;
   TDCClient dc(*this);
   SetEchelle(dc);
-  if (pEltCourant) pEltCourant->Invalid(dc, true, 2);
+  if (pEltCourant) pEltCourant->Invalid(dc, true, 1);
   TListeCV* liste = pEltSel && pEltSel->pListeCV ? pEltSel->pListeCV : &TabLElt[nCV];
   const int angle = pEltSel ? pEltSel->GetAngle() : 0;
   TElt* e = nullptr;
@@ -275,7 +276,7 @@ void TFenDessin::CreerElt(const TPoint& p) {
   // There is always an empty sheet after the last one drawn on.
   if (pFenCadre && Num == pFenCadre->nbFeuilles) pFenCadre->AddFeuille();
   liste->InsereAvant(e, pEltSel && pEltSel->EstDansListe() ? pEltSel->GetEltSuivant() : nullptr);
-  e->Invalid(dc, true, 2);
+  e->Invalid(dc, true, 1);
   pEltSel = e;
   if (pFenListe) pFenListe->ScrollBD(e);
 }

@@ -1,6 +1,8 @@
 // Sheet export and file insertion: a range of sheets written as a routine that stands by
 // itself, and such a routine read back after the active sheet, its kites given to the
 // document's kites by the correspondence of the dialog.
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string>
 
@@ -108,10 +110,16 @@ void DelieNonUtilises(TTableInsertion& table) {
   table.PourChaque([](TElt* e) { TFenDessin::DetachePere(e); });
   table.PourChaque([](TElt* pere) {
     if (pere->NumSynchro == 0) return;
+    const auto nbFils = std::count_if(std::begin(pere->pFils), std::end(pere->pFils), [](const TElt* f) { return f; });
     TElt* nouveau = nullptr;
     int slot = 0;
     for (TElt* fils : pere->pFils) {
       if (!fils) continue;
+      // A single child is simply free, and keeps whatever it holds itself.
+      if (nbFils == 1) {
+        fils->pPere = nullptr;
+        break;
+      }
       if (!nouveau) {
         nouveau = fils;
         nouveau->pPere = nullptr;
@@ -124,8 +132,6 @@ void DelieNonUtilises(TTableInsertion& table) {
       for (TElt*& f : fils->pFils) f = nullptr;
       nouveau->pFils[slot++] = fils;
     }
-    // With a single child, that child is simply free.
-    if (nouveau && slot == 0) nouveau->NumSynchro = 0;
     for (TElt*& f : pere->pFils) f = nullptr;
     pere->NumSynchro = 0;
   });

@@ -201,12 +201,21 @@ TVect TElt::DirectionPrecedente() {
   return e ? e->GetVDir() : TVect(0, 1);
 }
 
-void TElt::PasseAuPrecedent(TPointf p) {
-  for (TElt* e = GetEltPrecedent(); e; e = e->GetEltPrecedent())
+TPointf TElt::PasseAuPrecedent(TPointf p) {
+  // The caller's point is the one relayed until an element passes on a point of its own.
+  TPointf appelant = p;
+  bool partage = true;
+  for (TElt* e = GetEltPrecedent(); e; e = e->GetEltPrecedent()) {
     if (!e->RelaiePoint(p)) {
       e->Setpp2(p);
-      return;
+      break;
     }
+    if (partage) {
+      appelant = e->Getp2Param();
+      partage = p == appelant;
+    }
+  }
+  return appelant;
 }
 
 TVect TElt::GetVDirDroite() {

@@ -188,8 +188,9 @@ protected:
   // What an element that stands on its predecessor's end does with a point that is passed
   // back to it: true when it stored the point and passes it further back, perhaps changed.
   virtual bool RelaiePoint(TPointf&) { return false; }
-  // Sets p as the end of the element before this one, through the elements that relay it.
-  void PasseAuPrecedent(TPointf p);
+  // Sets p as the end of the element before this one, through the elements that relay it;
+  // returns p as the relay leaves it, which a landing on the way puts on the ground.
+  TPointf PasseAuPrecedent(TPointf p);
 };
 
 // Background colours of a property bar in the strip.

@@ -11,7 +11,8 @@ const char* LibelleTransformation(int t) {
     case TRANSFORMATION_SYMETRIE_X: return "Symétrie/x ";
     case TRANSFORMATION_SYMETRIE_Y: return "Symétrie/y ";
     case TRANSFORMATION_SYMETRIE_POINT: return "Symétrie/point ";
-    default: return "Parallèle";
+    case TRANSFORMATION_PARALLELE: return "Parallèle";
+    default: return nullptr;  // the button keeps the caption it has
   }
 }
 }  // namespace
@@ -35,7 +36,8 @@ void TBD_Figure::SetContrainte() {
   // The duration is the file's: shown, never taken.
   SetLectureSeule(IDC_DUREE, true);
   SetDlgItemText(IDC_DUREE, EntierBD(pElt->DureeConstante));
-  SetDlgItemText(IDC_TRANSFORMATION, LibelleTransformation(static_cast<TFigure*>(pElt)->Transformation));
+  if (const char* libelle = LibelleTransformation(static_cast<TFigure*>(pElt)->Transformation))
+    SetDlgItemText(IDC_TRANSFORMATION, libelle);
   MiseAJourContrainte();
 }
 

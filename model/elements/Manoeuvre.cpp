@@ -18,17 +18,17 @@ bool TManoeuvre::RelaiePoint(TPointf& p) {
   return true;
 }
 
-void TManoeuvre::Setpp2(const TPointf& p) {
+void TManoeuvre::Setpp2(const TPointf& p) { Relaie(p); }
+
+TPointf TManoeuvre::Relaie(const TPointf& p) {
   TPointf q = p;
   RelaiePoint(q);
-  PasseAuPrecedent(q);
+  const TPointf stocke = Getp2Param();
+  const TPointf suite = PasseAuPrecedent(q);
+  return q == stocke ? suite : stocke;
 }
 
-TPointf TManoeuvre::Getp2() {
-  const TPointf p = PointDuPrecedent();
-  Setpp2(p);
-  return p;
-}
+TPointf TManoeuvre::Getp2() { return Relaie(PointDuPrecedent()); }
 
 void TManoeuvre::SetTempsDuree(int contrainte, float t, float duree) {
   Contrainte = contrainte;

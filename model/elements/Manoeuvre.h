@@ -18,6 +18,8 @@ public:
 protected:
   // A chain of manoeuvres on one spot is repainted as far as an element with a length.
   TPropagation PropagationInvalid() const override { return TPropagation::Etendue; }
+  // Stores p here and on the elements it stands on; returns p as the caller's point is left.
+  TPointf Relaie(const TPointf& p);
   // The end point that the element before it gives.
   virtual TPointf PointDuPrecedent() const;
   bool RelaiePoint(TPointf& p) override;

@@ -6,7 +6,8 @@
 // copy of its folder, so that its dialogs may write there: the OUT file, "----", both streams
 // in their order, the code, then each file new or changed in the copy. A case of commandes/,
 // NAME.cmd, holds the arguments of one command, OUT standing for the file it writes, and runs
-// and reports as a replay does. TRAJ_REGENERE=1 rewrites the expected files
+// and reports as a replay does; so does a finding of trouvailles/, a folder NAME holding its
+// files, `cmd` and `attendu`. TRAJ_REGENERE=1 rewrites the expected files
 // (tests/data/README.md).
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -34,6 +35,12 @@ void PrintTo(const TCas& c, std::ostream* os) { *os << c.Commande << " " << c.Ro
 
 std::vector<TCas> Cas() {
   std::vector<TCas> cas;
+  // A finding is a folder of its own: its files and `cmd`, the arguments run inside it.
+  std::vector<fs::path> trouvailles;
+  for (const auto& e : fs::directory_iterator(fs::path(TRAJ_CAS) / "trouvailles"))
+    if (fs::exists(e.path() / "cmd")) trouvailles.push_back(e.path() / "cmd");
+  std::sort(trouvailles.begin(), trouvailles.end());
+  for (const fs::path& t : trouvailles) cas.push_back({"trouvailles", t});
   for (const std::string commande : {"resave", "solve", "keys", "sample", "replay", "commandes"}) {
     const char* extension = commande == "replay" ? ".rep" : commande == "commandes" ? ".cmd" : ".rou";
     std::vector<fs::path> routines;
@@ -97,10 +104,11 @@ TEST_P(CasTest, GivesItsExpectedFile) {
       arguments.insert(arguments.end(), {"--in", entree.filename().string()});
     return CompareAvecAttendu(EnCopie(c.Routine, arguments), attendu, dossier / "obtenu");
   }
-  if (c.Commande == "commandes") {
+  if (c.Commande == "commandes" || c.Commande == "trouvailles") {
     std::istringstream ligne(LitTout(c.Routine));
     std::vector<std::string> arguments;
     for (std::string mot; ligne >> mot;) arguments.push_back(mot == "OUT" ? out : mot);
+    if (c.Commande == "trouvailles") attendu = c.Routine.parent_path() / "attendu";
     return CompareAvecAttendu(EnCopie(c.Routine, arguments), attendu, dossier / "obtenu");
   }
   const std::string nom = c.Routine.stem().string();
@@ -121,7 +129,8 @@ TEST_P(CasTest, GivesItsExpectedFile) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Cli, CasTest, ::testing::ValuesIn(Cas()), [](const auto& info) {
-  std::string nom = info.param.Commande + "_" + info.param.Routine.stem().string();
+  const fs::path& r = info.param.Routine;
+  std::string nom = info.param.Commande + "_" + (r.filename() == "cmd" ? r.parent_path().filename() : r.stem()).string();
   for (char& ch : nom)
     if (!std::isalnum(static_cast<unsigned char>(ch))) ch = '_';
   return nom;
