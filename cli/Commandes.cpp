@@ -9,6 +9,7 @@
 #include "editor/FenDessin.h"
 #include "files/Ecriture.h"
 #include "files/Lecture.h"
+#include "Rejeu.h"
 
 namespace {
 
@@ -96,7 +97,6 @@ int Echantillon(const std::vector<std::string>& args) {
 }  // namespace
 
 int Peins(const std::vector<std::string>& args);  // cli/Peinture.cpp
-int Rejoue(const std::vector<std::string>& args);  // cli/Rejeu.cpp
 int Colle(const std::vector<std::string>& args);   // cli/Collage.cpp
 int Exporte(const std::vector<std::string>& args);  // cli/Feuilles.cpp
 int Insere(const std::vector<std::string>& args);   // cli/Feuilles.cpp

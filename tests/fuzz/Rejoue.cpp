@@ -1,5 +1,6 @@
 // Replays files, or every file of folders, through the fuzz entry point: the corpus runs in
-// the ordinary test suite, under the sanitizers, without the fuzzer itself.
+// the ordinary test suite, under the sanitizers, without the fuzzer itself. Paths are made
+// absolute first: a target may work in a folder of its own.
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -15,9 +16,9 @@ int main(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     if (std::filesystem::is_directory(argv[i])) {
       for (const auto& e : std::filesystem::directory_iterator(argv[i]))
-        if (e.is_regular_file()) fichiers.push_back(e.path());
+        if (e.is_regular_file()) fichiers.push_back(std::filesystem::absolute(e.path()));
     } else {
-      fichiers.emplace_back(argv[i]);
+      fichiers.push_back(std::filesystem::absolute(argv[i]));
     }
   }
   for (const auto& f : fichiers) {
