@@ -20,6 +20,15 @@ unsigned TD3DDemo::TickCourant = 0;
 int TD3DDemo::PeriodePrecedente = 0;
 int TD3DDemo::ModePrecedent = MODE_AVANT;
 
+namespace {
+// The running scene is owned through Globals: a new document has none.
+[[maybe_unused]] const bool ReinitialisationEnregistree = (EnregistreReinitialisation([] {
+  delete Globals.pD3DDemo;
+  Globals.pD3DDemo = nullptr;
+  TD3DDemo::ReinitialiseStatiques();
+}), true);
+}  // namespace
+
 void TD3DDemo::ReinitialiseStatiques() {
   _Debut = true;
   MusiqueEnCours = false;

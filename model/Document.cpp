@@ -1,7 +1,7 @@
 #include "model/Document.h"
 
-#include "demo/D3DDemo.h"
-#include "demo/player/FenApp.h"
+#include <vector>
+
 #include "editor/FenDessin.h"
 #include "model/Elt.h"
 
@@ -40,6 +40,11 @@ void InitialiseNumCoul() {
 }
 
 namespace {
+std::vector<void (*)()>& Reinitialisations() {
+  static std::vector<void (*)()> fonctions;
+  return fonctions;
+}
+
 void RemetListe(TListeCV& l) {
   l.Vide();
   l.SetNumCoul(0, TColor());
@@ -71,11 +76,12 @@ void ReinitialiseDocument() {
   PointDebutTampon = TPointf();
   pFenDes0 = nullptr;
   pFenAppDemo = nullptr;
-  delete Globals.pD3DDemo;  // the scene is owned through Globals
+  // The scene, owned through Globals, goes with its own state.
+  for (void (*reinitialise)() : Reinitialisations()) reinitialise();
   Globals = TGlobals();
 
   TElt::NbElt = 0;
   TFenDessin::ReinitialiseStatiques();
-  TD3DDemo::ReinitialiseStatiques();
-  TFenApp::ReinitialiseStatiques();
 }
+
+void EnregistreReinitialisation(void (*reinitialise)()) { Reinitialisations().push_back(reinitialise); }

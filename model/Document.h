@@ -46,3 +46,6 @@ void InitialiseNumCoul();
 // Brings every global and static of the document back to its state at program start:
 // empty tables at their own places, counters and flags at their first values.
 void ReinitialiseDocument();
+// What lies above the document and keeps state of its own (the scene, the player) gives
+// here, once, how ReinitialiseDocument brings it back.
+void EnregistreReinitialisation(void (*reinitialise)());

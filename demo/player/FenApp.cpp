@@ -14,6 +14,10 @@
 bool TFenApp::PremierPaint = true;
 int TFenApp::DerniereCommande = CM_PAUSE;
 
+namespace {
+[[maybe_unused]] const bool ReinitialisationEnregistree = (EnregistreReinitialisation(&TFenApp::ReinitialiseStatiques), true);
+}  // namespace
+
 void TFenApp::ReinitialiseStatiques() {
   PremierPaint = true;
   DerniereCommande = CM_PAUSE;
