@@ -114,7 +114,7 @@ const std::vector<TCommande>& Commandes() {
       {"keys", "IN", "relit IN, construit le vol comme la démo, écrit chaque clé posée puis END tFin", Cles},
       {"sample", "IN T", "le même vol, puis la pose de chaque cerf-volant au temps T", Echantillon},
       {"paint", "IN SHEET OUT.log",
-       "relit IN, peint la feuille SHEET comme l'écran, une ligne par tracé (--width W, défaut 880 ; "
+       "relit IN, peint la feuille SHEET comme l'écran, une ligne par tracé (--width W, défaut 880, au plus 16384 ; "
        "--current K:I ; --range K:I:J)",
        Peins},
       {"replay", "SCRIPT OUT",

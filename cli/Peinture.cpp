@@ -15,6 +15,7 @@
 #include "model/Document.h"
 #include "model/Elt.h"
 #include "platform/DCJournal.h"
+#include "platform/Types.h"
 
 namespace {
 
@@ -76,7 +77,8 @@ std::string LitOptions(const std::vector<std::string>& args, TOptions& o) {
     const std::string& v = args[++i];
     if (a == "--width") {
       const auto w = Entier(v);
-      if (!w || *w < 1) return "--width attend un entier positif, pas « " + v + " »";
+      if (!w || *w < 1 || *w > TAILLE_SURFACE_MAX)
+        return "--width attend un entier de 1 à " + std::to_string(TAILLE_SURFACE_MAX) + ", pas « " + v + " »";
       o.Largeur = *w;
     } else if (a == "--current") {
       if (!(o.Courant = Entiers(v, 2))) return "--current attend K:I, pas « " + v + " »";

@@ -26,6 +26,7 @@
 #include "model/Elt.h"
 #include "platform/DCJournal.h"
 #include "platform/Dialogues.h"
+#include "platform/Types.h"
 #include "DialoguesScript.h"
 #include "EditeurScript.h"
 
@@ -121,6 +122,10 @@ bool Evenement(const std::string& ligne, TFenCadre2& cadre, TDialoguesScript& di
   TFenDessin* feuille = cadre.pFenDesActive;
   std::vector<int> v;
   if (e == "width" && m.size() == 2 && entiers(1, 1, v) && v[0] > 0) {
+    if (v[0] > TAILLE_SURFACE_MAX) {
+      erreur = "largeur de 1 à " + std::to_string(TAILLE_SURFACE_MAX) + " pixels « " + ligne + " »";
+      return false;
+    }
     cadre.EvSize(v[0], v[0] / 2 + HAUTEUR_BANDE);
   } else if (e == "menu" && m.size() == 2 && entiers(1, 1, v) && v[0] >= 0) {
     feuille->Trt_Menu(static_cast<unsigned>(v[0]));

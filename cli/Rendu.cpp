@@ -17,6 +17,7 @@
 #include "model/Document.h"
 #include "platform/gl/RenduGL.h"
 #include "platform/gl/ServeurX.h"
+#include "platform/Types.h"
 #include "platform/gl/SurfaceHorsEcran.h"
 
 namespace {
@@ -31,8 +32,8 @@ bool LitEntier(const std::string& texte, int& valeur) {
 bool LitTaille(const std::string& texte, int& largeur, int& hauteur) {
   const auto x = texte.find('x');
   return x != std::string::npos && LitEntier(texte.substr(0, x), largeur) &&
-         LitEntier(texte.substr(x + 1), hauteur) && largeur > 0 && hauteur > 0 && largeur <= 16384 &&
-         hauteur <= 16384;
+         LitEntier(texte.substr(x + 1), hauteur) && largeur > 0 && hauteur > 0 &&
+         largeur <= TAILLE_SURFACE_MAX && hauteur <= TAILLE_SURFACE_MAX;
 }
 
 int Usage(const char* pourquoi) {
@@ -49,9 +50,12 @@ int Rend(const std::vector<std::string>& args) {
     if (args[i] == "--size" || args[i] == "--team") {
       if (i + 1 >= args.size()) return Usage("valeur manquante après une option");
       const std::string& v = args[++i];
-      if (args[i - 1] == "--size" ? !LitTaille(v, largeur, hauteur)
-                                  : !LitEntier(v, equipe) || equipe < 1 || equipe > 5)
+      if (args[i - 1] == "--size") {
+        if (!LitTaille(v, largeur, hauteur))
+          return Usage(("--size attend LxH, chacun de 1 à " + std::to_string(TAILLE_SURFACE_MAX)).c_str());
+      } else if (!LitEntier(v, equipe) || equipe < 1 || equipe > 5) {
         return Usage("valeur d'option illisible");
+      }
     } else {
       positionnels.push_back(args[i]);
     }

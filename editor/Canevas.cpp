@@ -22,6 +22,11 @@ constexpr float PAS_RANGEE = 132.0f;
 constexpr int LARGEUR_MIN_LEGENDES = 400;
 constexpr int LARGEUR_MIN_GRILLE = 500;
 
+// Truncated, then brought within the canvas's bounds.
+int Borne(float v) {
+  return std::clamp(Tronque(v), -TFenDessin::LIMITE_COORDONNEES, TFenDessin::LIMITE_COORDONNEES);
+}
+
 void Ligne(TDC& dc, int x1, int y1, int x2, int y2) {
   dc.MoveToEx(TPoint(x1, y1));
   dc.LineTo(TPoint(x2, y2));
@@ -65,14 +70,14 @@ void TFenDessin::SetEchelle(TDC& dc) {
 TPoint TFenDessin::LPtoDP(const TPointf& p) const {
   const float dx = (p.x - static_cast<float>(Origine.x)) * EchelleX;
   const float dy = (p.y - static_cast<float>(Origine.y)) * EchelleY;
-  return TPoint(Tronque(dx), Tronque(dy));
+  return TPoint(Borne(dx), Borne(dy));
 }
 
 TPointf TFenDessin::DPtoLP(const TPoint& p) const {
   if (std::fabs(EchelleX) < EPS || std::fabs(EchelleY) < EPS) return TPointf(0, 0);
   const float lx = static_cast<float>(p.x) / EchelleX + static_cast<float>(Origine.x);
   const float ly = static_cast<float>(p.y) / EchelleY + static_cast<float>(Origine.y);
-  return TPointf(static_cast<float>(Tronque(lx)), static_cast<float>(Tronque(ly)));
+  return TPointf(static_cast<float>(Borne(lx)), static_cast<float>(Borne(ly)));
 }
 
 void TFenDessin::DessinAxes(TDC& dc) {

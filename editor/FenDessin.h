@@ -90,6 +90,10 @@ public:
   // and EchIE: for the client area on the screen, for this sheet's place on the page while
   // a print runs.
   void SetEchelle(TDC& dc);
+  // Both ways, coordinates are clamped to LIMITE_COORDONNEES: far off every surface and
+  // every sheet, yet so far inside int that a symbol's few pixels, a circle's radius, the
+  // difference of two mouse positions or a squared distance in 64 bits never overflow.
+  static constexpr int LIMITE_COORDONNEES = 1 << 24;
   TPoint LPtoDP(const TPointf& p) const;
   // Always whole logical units; (0, 0) while the window has no size.
   TPointf DPtoLP(const TPoint& p) const;

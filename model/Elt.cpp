@@ -47,8 +47,10 @@ void TElt::SetV(float v) {
 bool TElt::Clicp2(TDC&, int Feuille, const TPoint& p) {
   if (!pFen || pFen->Num != Feuille) return false;
   const TPoint d = pFen->LPtoDP(Getp2());
-  const long long dx = static_cast<long long>(d.x) - p.x;
-  const long long dy = static_cast<long long>(d.y) - p.y;
+  // In double: the click itself may lie anywhere in int, and the sum of two squares of 2^32
+  // exceeds 64 bits. Exact where it matters, near the end.
+  const double dx = static_cast<double>(d.x) - p.x;
+  const double dy = static_cast<double>(d.y) - p.y;
   return dx * dx + dy * dy < 26;
 }
 

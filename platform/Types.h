@@ -2,6 +2,10 @@
 // Integer geometry and colours shared by the model and every drawing surface.
 #include <cstdint>
 
+// The widest and highest surface the program draws on, in pixels: more than any screen has.
+// A larger sheet or picture is refused where it is asked for.
+inline constexpr int TAILLE_SURFACE_MAX = 16384;
+
 struct TPoint {
   int x = 0;
   int y = 0;

@@ -13,13 +13,15 @@
 
 int ArrondiDegres(float Angle) {
   const float deg = Angle / DEMI_TOUR * 180;
-  int i = Tronque(deg);
+  // Rounded while still a float, then brought into int: an angle beyond int stays at its
+  // bound instead of stepping past it.
+  float i = std::trunc(deg);
   if (i < 1) {
-    if (static_cast<float>(i) - deg > 0.5f) --i;
-  } else if (deg - static_cast<float>(i) > 0.5f) {
-    ++i;
+    if (i - deg > 0.5f) i -= 1;
+  } else if (deg - i > 0.5f) {
+    i += 1;
   }
-  return i;
+  return Tronque(i);
 }
 
 TArc::TArc(const TPoint& p, TFenDessin* fen, TFenListe* fenListe, TListeCV* liste)

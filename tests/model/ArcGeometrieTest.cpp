@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "model/ArcGeometrie.h"
@@ -94,6 +95,10 @@ TEST_F(ArcGeometrieTest, DegreesOfTheBarRoundButPositiveSweepsUnderADegreeShowAs
   for (const auto& [deg, attendu] :
        std::initializer_list<std::pair<float, int>>{{0.7f, 0}, {-0.7f, -1}, {1.6f, 2}, {-2.4f, -2}, {-2.6f, -3}})
     EXPECT_EQ(ArrondiDegres(deg * rad), attendu) << deg;
+  // Beyond int an angle stays at the bound rather than rounding past it.
+  EXPECT_EQ(ArrondiDegres(1e10f), std::numeric_limits<int>::max());
+  EXPECT_EQ(ArrondiDegres(-1e10f), std::numeric_limits<int>::min());
+  EXPECT_EQ(ArrondiDegres(std::numeric_limits<float>::quiet_NaN()), 0);
 }
 
 TEST_F(ArcGeometrieTest, BoxOfACircleTruncatesTowardsZero) {
