@@ -1,5 +1,6 @@
 #include "Commandes.h"
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
@@ -77,6 +78,11 @@ int Echantillon(const std::vector<std::string>& args) {
   const float t = args.size() == 2 ? std::strtof(args[1].c_str(), &fin) : 0;
   if (args.size() != 2 || fin == args[1].c_str() || *fin != '\0') {
     std::fprintf(stderr, "trajectoires-cli : sample prend IN et un temps T en centièmes (voir --help)\n");
+    return 2;
+  }
+  if (!std::isfinite(t)) {
+    std::fprintf(stderr, "trajectoires-cli : le temps T de sample est un nombre fini de centièmes, pas « %s » (voir --help)\n",
+                 args[1].c_str());
     return 2;
   }
   TFenCadre2 cadre;

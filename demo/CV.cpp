@@ -5,6 +5,7 @@
 #include <string>
 
 #include "editor/FenDessin.h"
+#include "model/Bornes.h"
 #include "model/Outils.h"
 
 namespace {
@@ -14,6 +15,11 @@ namespace {
 constexpr double PI = 3.14159265358979323846;
 constexpr float TOUR = 6.2831855f;
 const TOrientation ATTITUDE_N{{0, 0, 1}, {0, 1, 0}};
+// The loops that lay keys are counted, so that they end whatever the values. An arc within
+// the bounds has a key a tenth of a second at most, a turn to an admissible angle a key a
+// quarter turn, from a heading within half a turn of 0.
+constexpr int CLES_ARC_MAX = static_cast<int>(TEMPS_MAX / 10.0f) + 10;
+constexpr int QUARTS_MAX = static_cast<int>((ANGLE_MAX + 180.0f) / 90.0f) + 1;
 
 double Radians(double degres) { return degres * PI / 180.0; }
 
@@ -47,7 +53,14 @@ void CV::SetOrientation(const TOrientation& o) {
   zY = o.Y.z;
 }
 
+bool CV::TesteBorne(int Num, float t) {
+  if (TempsAdmis(t) && (!Depart || TempsAdmis(t - *Depart))) return true;
+  Signale("Élément N°%d : temps hors limites!!!", "Élément de la Figure N°%d : temps hors limites!!!", Num);
+  return false;
+}
+
 bool CV::TesteTemps(int Num, float t, const char* texte, const char* texteFigure) {
+  if (!TesteBorne(Num, t)) return false;
   // Strict: an element that ends when the one before it ended lays nothing.
   if (t > T) return true;
   Signale(texte, texteFigure, Num);
@@ -68,7 +81,9 @@ void CV::Arrive(float t, float x, float y) {
   CleOrientation(t);
 }
 
-void CV::Point(int, float t, float x, float y) {
+void CV::Point(int Num, float t, float x, float y) {
+  if (!TesteBorne(Num, t)) return;
+  Depart = t;
   T = t;
   X = x;
   Y = y;
@@ -97,11 +112,16 @@ void CV::Segment(int Num, float t, float x, float y, float DureeVirage) {
 }
 
 void CV::Rotation(float t, float Angle) {
+  // An angle no routine can hold turns the kite straight to its final heading.
+  if (!AngleAdmis(Angle)) return;
   const float a = static_cast<float>(AngleModulo2Pi(std::atan2(double{xY}, double{yY}) * 180.0 / PI));
   if (std::fabs(Angle - a) < 3.0f) return;
   const float vitesse = (Angle - a) / (t - T);
   const float s = Angle > a ? 1.0f : -1.0f;
-  for (float cur = a + 90.0f * s; !(s > 0 ? cur > Angle : cur < Angle); cur += 90.0f * s) {
+  // Whole degrees from a whole heading: each quarter turn is exact in a float.
+  for (int k = 1; k <= QUARTS_MAX; ++k) {
+    const float cur = a + 90.0f * s * static_cast<float>(k);
+    if (s > 0 ? cur > Angle : cur < Angle) break;
     xY = std::sin(Radians(cur));
     yY = std::cos(Radians(cur));
     CleOrientation(T + std::fabs((cur - a) / vitesse), {{0, 0, 1}, {xY, yY, 0}});
@@ -208,7 +228,9 @@ bool CV::ParcourtArc(int Num, float t, float cx, float cy, float ex, float ey, b
   const float w = (a1 - a0) / (t - T0);
   const float r = std::sqrt((ex - cx) * (ex - cx) + (ey - cy) * (ey - cy));
   // A key every tenth of a second, and one at the end unless it falls within 1.0 of the last.
-  for (float tk = T0 + 10.0f;;) {
+  // Between admissible times the sum always moves on; the count ends the loop all the same.
+  float tk = T0 + 10.0f;
+  for (int n = 0; n < CLES_ARC_MAX; ++n) {
     const float a = (tk - T0) * w + a0;
     kx = r * std::cos(a) + cx;
     ky = r * std::sin(a) + cy;
@@ -249,6 +271,7 @@ void CV::ArcRevo(int Num, float t, float cx, float cy, float ex, float ey, bool 
 
 void CV::Pose(int Num, float t1, float t2, const TVecteur3& U, float H, float tg, const char* texte,
               const char* texteFigure) {
+  if (!TesteBorne(Num, t1) || !TesteBorne(Num, t2)) return;
   if (!(t2 > T) || !(t1 >= T)) {
     Signale(texte, texteFigure, Num);
     return;

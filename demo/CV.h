@@ -2,6 +2,8 @@
 // The flight generator of one kite: one operation per kind of element, each laying
 // time-stamped position and orientation keys on the kite's tracks from the state the
 // element before it left. Times are in hundredths of a second, angles in degrees.
+#include <optional>
+
 #include "demo/Trajectoire.h"
 
 class CV {
@@ -35,7 +37,11 @@ public:
   float xY = 0, yY = 1, zY = 0;  // the model's y axis: where the nose points
 
 private:
-  // The tests of the operations; false, with the report said, when one fails.
+  // The tests of the operations; false, with the report said, when one fails. The time test
+  // begins with the bounds, which the point alone takes: a time that a routine can hold, and
+  // no further from the kite's start than a routine can last, so that the keys of a flight
+  // are never more than those of the longest routine.
+  bool TesteBorne(int Num, float t);
   bool TesteTemps(int Num, float t, const char* texte, const char* texteFigure);
   bool TesteLongueur(int Num, float x, float y, const char* texte, const char* texteFigure);
   // Ends an element at (x, y) at t: the state moves there and a key of each kind is laid.
@@ -55,4 +61,5 @@ private:
   void Pose(int Num, float t1, float t2, const TVecteur3& U, float H, float tg, const char* texte, const char* texteFigure);
 
   TTrajectoire* pTrajectoire = nullptr;
+  std::optional<float> Depart;  // the time of the kite's point, once laid
 };

@@ -39,6 +39,7 @@ void TFenDessin::Coller() {
   MAJUnDo();
   TBD_Coller bd(&ParamColler);
   bd.SetupWindow();
+  bd.TempsDebut = static_cast<TElt*>(Tampon->Premier())->Gett2Param();
   if (!Dialogues().Execute(bd)) return;
   // The range lands on the current element's sheet and kite, whatever its source. This is
   // done before the spare copy is taken, because the sheet the range was copied from may

@@ -77,31 +77,55 @@ void PourChaqueInsere(const TTableInsertion& table, F f) {
   }
 }
 
-// Moves each named list of the table into its kite's track, at the end of what the track has
-// on the active sheet; returns the latest end time met there, cut to a whole number.
-float InsereListes(TTableInsertion& table) {
+// Where kite i takes the file: before the first element off the active sheet that follows
+// one on it, or at the end of a track with nothing on the active sheet (null). `precedent`
+// is the element the file then follows.
+TElt* PointInsertion(int i, TElt*& precedent) {
+  precedent = nullptr;
+  for (TNoeud* n = TabLElt[i].Premier(); n; n = n->GetSuivant()) {
+    auto* e = static_cast<TElt*>(n);
+    if (precedent && e->pFen->Num != NumFActive && precedent->pFen->Num == NumFActive) return e;
+    precedent = e;
+  }
+  return nullptr;
+}
+
+// The shift of "calc": the latest end time that the file follows, cut to a whole number.
+float DecalageCalcule() {
+  float calcule = 0;
+  for (int i = 0; i < nbCV; ++i) {
+    TElt* precedent = nullptr;
+    PointInsertion(i, precedent);
+    if (precedent && precedent->Gett2Param() > calcule) calcule = static_cast<float>(Tronque(precedent->Gett2Param()));
+  }
+  return calcule;
+}
+
+// Notes, for the dialog's check of the shift in time, the end times of each list of the table.
+void NoteTemps(TTableInsertion& table, ParamTBDInsererFic& p) {
+  for (int c = 0; c < NB_CV_MAX; ++c) {
+    p.TempsMin[c] = p.TempsMax[c] = 0;
+    bool premier = true;
+    for (TNoeud* n = table.Listes[c].Premier(); n; n = n->GetSuivant()) {
+      const float t = static_cast<TElt*>(n)->Gett2Param();
+      if (premier || t < p.TempsMin[c]) p.TempsMin[c] = t;
+      if (premier || t > p.TempsMax[c]) p.TempsMax[c] = t;
+      premier = false;
+    }
+  }
+}
+
+// Moves each named list of the table into its kite's track, at its insertion point.
+void InsereListes(TTableInsertion& table) {
   for (int c = 0; c < NB_CV_MAX; ++c) {
     table.Premier[c] = static_cast<TElt*>(table.Listes[c].Premier());
     table.Dernier[c] = static_cast<TElt*>(table.Listes[c].Dernier());
   }
-  float calcule = 0;
   for (int i = 0; i < nbCV; ++i) {
-    // The insertion point is the first element off the active sheet that follows one on it;
-    // a track with nothing on the active sheet takes the file at its end.
     TElt* precedent = nullptr;
-    TElt* position = nullptr;
-    for (TNoeud* n = TabLElt[i].Premier(); n; n = n->GetSuivant()) {
-      auto* e = static_cast<TElt*>(n);
-      if (precedent && e->pFen->Num != NumFActive && precedent->pFen->Num == NumFActive) {
-        position = e;
-        break;
-      }
-      precedent = e;
-    }
-    if (precedent && precedent->Gett2Param() > calcule) calcule = static_cast<float>(Tronque(precedent->Gett2Param()));
+    TElt* position = PointInsertion(i, precedent);
     if (!TabLElt[i].InsereListe(table.Listes[ListeDe(i)], position)) Dialogues().MessageBox("Liste Vide", "OuvrirFeuille()");
   }
-  return calcule;
 }
 
 // The kites of the file left out keep no tie with what was inserted: their children lose
@@ -214,6 +238,8 @@ bool TFenDessin::OuvrirFeuille() {
         MessageErreur("Fichier inséré : ligne " + std::to_string(numero) + " trop longue : ignorée");
       });
   ParamInsererFic.NbCVFichier = table.NbCVFichier();
+  NoteTemps(table, ParamInsererFic);
+  ParamInsererFic.DecalageCalcule = DecalageCalcule();
 
   TBD_InsererFic bd(&ParamInsererFic, nbCV);
   bd.SetupWindow();
@@ -233,11 +259,11 @@ bool TFenDessin::OuvrirFeuille() {
     for (int i = 0; i < nbCV; ++i)
       for (TNoeud* n = table.Listes[ListeDe(i)].Premier(); n; n = n->GetSuivant())
         static_cast<TElt*>(n)->pListeCV = &TabLElt[i];
-    float decalage = InsereListes(table);
+    InsereListes(table);
     DelieNonUtilises(table);
     OrdonnePeres(table);
     // Only the inserted elements move in time, whatever follows them.
-    if (p.Decaler) decalage = static_cast<float>(p.Temps);
+    const float decalage = p.Decaler ? static_cast<float>(p.Temps) : p.DecalageCalcule;
     if (p.Calcul || p.Decaler)
       PourChaqueInsere(table, [&](TElt* e) { e->Sett2Param(e->Gett2Param() + decalage); });
     MiseAJourVTotale();

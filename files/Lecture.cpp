@@ -6,6 +6,8 @@
 // - a line whose fields, up to the last field of its record, are not all there and
 //   readable (a number too large for an int counts as unreadable) is not read either;
 // - a kite number outside 0 to 5 or a sheet number outside 1 to 199 drops the line;
+// - so does a time, a duration or an angle of a turn beyond what a routine can hold
+//   (model/Bornes.h), not a number or infinite: the flight could not be built from it;
 // - a father's kite or index that names no element makes no link (TFenDessin::Synchronise);
 // - a figure that contains itself, directly or through others, is read as an empty figure.
 #include "files/Lecture.h"
@@ -20,6 +22,7 @@
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
 #include "files/Lignes.h"
+#include "model/Bornes.h"
 #include "model/Document.h"
 #include "model/Outils.h"
 #include "model/elements/AllerA.h"
@@ -41,24 +44,26 @@ enum class TRecord { Segment, SegRevo, Point, Axel, Rot, Arc, ArcRevo, Stop, Pos
 struct TDefinition {
   std::string_view Nom;
   TRecord Record;
-  std::string_view Champs;  // the class fields after the common ones: f float, d int, s word
+  // The class fields after the common ones: f float, t duration, a angle of a turn (both
+  // floats), d int, s word.
+  std::string_view Champs;
 };
 
 // In the order in which a line's first word is compared.
 constexpr std::array<TDefinition, 13> Definitions = {{
     {"SEGMENT", TRecord::Segment, ""},
-    {"SEGREVO", TRecord::SegRevo, "f"},
+    {"SEGREVO", TRecord::SegRevo, "a"},
     {"POINT", TRecord::Point, ""},
-    {"AXEL", TRecord::Axel, "df"},
-    {"ROT", TRecord::Rot, "ff"},
+    {"AXEL", TRecord::Axel, "dt"},
+    {"ROT", TRecord::Rot, "ta"},
     {"ARC", TRecord::Arc, "ff"},
-    {"ARCREVO", TRecord::ArcRevo, "fff"},
-    {"STOP", TRecord::Stop, "f"},
-    {"POSE", TRecord::Pose, "fd"},
+    {"ARCREVO", TRecord::ArcRevo, "ffa"},
+    {"STOP", TRecord::Stop, "t"},
+    {"POSE", TRecord::Pose, "td"},
     {"DERAPAGE", TRecord::Derapage, ""},
-    {"540", TRecord::T540, "df"},
-    {"ALLERA", TRecord::AllerA, "ffffffff"},
-    {"FIGURE", TRecord::Figure, "fsd"},
+    {"540", TRecord::T540, "dt"},
+    {"ALLERA", TRecord::AllerA, "tfffffff"},
+    {"FIGURE", TRecord::Figure, "tsd"},
 }};
 
 // One element line, as read. Nothing in it is allocated: a routine has many thousand lines.
@@ -103,7 +108,7 @@ bool LitChamps(TLecteurChamps& champs, TLigne& l) {
   std::size_t reels = 0, entiers = 0;
   for (char c : l.Def->Champs) {
     bool lu = false;
-    if (c == 'f')
+    if (c == 'f' || c == 't' || c == 'a')
       lu = champs.Reel(l.Reels[reels++]);
     else if (c == 'd')
       lu = champs.Entier(l.Entiers[entiers++]);
@@ -113,6 +118,18 @@ bool LitChamps(TLecteurChamps& champs, TLigne& l) {
   }
   // The synchronisation tail is optional; a kite without its index makes no link.
   if (l.Def->Record != TRecord::Point && champs.Entier(l.CvPere) && !champs.Entier(l.IndexPere)) l.CvPere = -1;
+  return true;
+}
+
+// Whether the line's time, durations and angles are all within what a routine can hold.
+bool DansLesBornes(const TLigne& l) {
+  if (!TempsAdmis(l.t)) return false;
+  std::size_t reels = 0;
+  for (char c : l.Def->Champs) {
+    if (c == 'd' || c == 's') continue;
+    const float r = l.Reels[reels++];
+    if ((c == 't' && !TempsAdmis(r)) || (c == 'a' && !AngleAdmis(r))) return false;
+  }
   return true;
 }
 
@@ -172,6 +189,10 @@ bool LitElement(std::string_view texte, bool avecEntete, TLigne& l) {
   l.Def = &*def;
   if (!LitChamps(champs, l) || l.Cv < 0 || l.Cv >= NB_CV_MAX || l.Feuille < 1 || l.Feuille >= NB_FEUILLES_MAX) {
     SignaleIllisible(l);
+    return false;
+  }
+  if (!DansLesBornes(l)) {
+    TFenDessin::MessageErreur("Ligne " + std::string(l.Def->Nom) + " hors limites : ignorée");
     return false;
   }
   return true;

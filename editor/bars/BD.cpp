@@ -1,9 +1,11 @@
 #include "editor/bars/BD.h"
 
 #include <cstdio>
+#include <string>
 
 #include "editor/DCClient.h"
 #include "editor/FenDessin.h"
+#include "model/Bornes.h"
 #include "model/Document.h"
 #include "model/Elt.h"
 #include "model/Nombres.h"
@@ -12,6 +14,17 @@
 
 std::string TexteBD(double valeur) { return Gcvt(valeur, 10); }
 std::string EntierBD(double valeur) { return std::to_string(Tronque(valeur)); }
+
+namespace {
+bool Refuse(const char* quoi, float borne, const char* unite) {
+  const std::string n = std::to_string(static_cast<long>(borne));
+  TFenDessin::MessageErreur(std::string("Valeur refusée : ") + quoi + " va de -" + n + " à " + n + " " + unite);
+  return false;
+}
+}  // namespace
+
+bool TempsSaisiAdmis(float t) { return TempsAdmis(t) || Refuse("un temps", TEMPS_MAX, "centièmes"); }
+bool AngleSaisiAdmis(float degres) { return AngleAdmis(degres) || Refuse("un angle", ANGLE_MAX, "degrés"); }
 
 TBD::TBD(TElt* elt) : pElt(elt) {
   Edits = {IDC_X, IDC_Y, IDC_T};
@@ -145,9 +158,9 @@ void TBD::TrtChangep2y() { ChangeCoordonnee(*this, IDC_Y, false); }
 
 void TBD::TrtChanget2() {
   // A child shows "1234- 3", which reads as 1234: leaving its field keeps the time. A text
-  // that is no number keeps the stored time.
+  // that is no number, or a time beyond the bounds, keeps the stored time.
   int t = 0;
-  if (std::sscanf(Lit(IDC_T).c_str(), "%d", &t) == 1)
+  if (std::sscanf(Lit(IDC_T).c_str(), "%d", &t) == 1 && TempsSaisiAdmis(static_cast<float>(t)))
     pElt->Sett2(static_cast<float>(t));
   else
     pElt->Sett2(pElt->t2.GetParam());

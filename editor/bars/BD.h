@@ -166,6 +166,12 @@ private:
   std::set<int> Inactifs;
 };
 
+// Whether a time or a duration typed, or an angle of a turn typed, is one that a routine can
+// hold. If not, the status line says so, and the field's handler keeps the stored value, as
+// it does with a text that is no number.
+bool TempsSaisiAdmis(float t);
+bool AngleSaisiAdmis(float degres);
+
 // A float as the bars show it: ten significant digits.
 std::string TexteBD(double valeur);
 // A number as the bars show it truncated.

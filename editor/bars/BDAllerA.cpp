@@ -42,7 +42,7 @@ void TBD_AllerA::SetContrainte() {
 void TBD_AllerA::PerteFocus(int id) {
   if (id == IDC_DUREE) {
     float lu = 0;
-    if (std::sscanf(Lit(IDC_DUREE).c_str(), "%f", &lu) == 1) pElt->DureeConstante = lu;
+    if (std::sscanf(Lit(IDC_DUREE).c_str(), "%f", &lu) == 1 && TempsSaisiAdmis(lu)) pElt->DureeConstante = lu;
     TBD::TrtChanget2();
   } else if (float* f = Champ(id)) {
     // Taken as typed: nothing keeps the two axes perpendicular or of unit length.

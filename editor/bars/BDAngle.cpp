@@ -17,6 +17,7 @@ void MontreAngle(TBD& bd, int id, float angle, bool tronque) {
 
 void LitAngle(TBD& bd, int id, float& angle) {
   float lu = 0;
-  if (std::sscanf(bd.GetDlgItemText(id).substr(0, LONGUEUR_SAISIE_BD).c_str(), "%f", &lu) == 1) angle = lu;
+  if (std::sscanf(bd.GetDlgItemText(id).substr(0, LONGUEUR_SAISIE_BD).c_str(), "%f", &lu) == 1 && AngleSaisiAdmis(lu))
+    angle = lu;
   MontreCumule(bd, static_cast<float>(Tronque(angle)));
 }

@@ -6,5 +6,5 @@
 // Writes angle into field id, with ten digits or truncated, and field 521 from it.
 void MontreAngle(TBD& bd, int id, float angle, bool tronque);
 // Reads field id into angle, as typed; field 521 follows the truncated value. A text that
-// is no number keeps the angle.
+// is no number, or an angle beyond the bounds, keeps the angle.
 void LitAngle(TBD& bd, int id, float& angle);

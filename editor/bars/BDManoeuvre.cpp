@@ -13,7 +13,8 @@ namespace {
 // The duration typed: stored as it reads, then t is taken again, which solves.
 void ChangeDuree(TBD& bd) {
   float lu = 0;
-  if (std::sscanf(bd.GetDlgItemText(IDC_DUREE).substr(0, LONGUEUR_SAISIE_BD).c_str(), "%f", &lu) == 1)
+  if (std::sscanf(bd.GetDlgItemText(IDC_DUREE).substr(0, LONGUEUR_SAISIE_BD).c_str(), "%f", &lu) == 1 &&
+      TempsSaisiAdmis(lu))
     bd.pElt->DureeConstante = lu;
   bd.TBD::TrtChanget2();
 }

@@ -19,7 +19,8 @@ public:
   // The controls take the settings: the button of Mode checked, Decalage in the edit.
   void SetupWindow();
   // With OK (1): Decalage read from the edit, an unreadable text keeping the old value, and
-  // Mode from the first button checked. Always true: nothing here is refused.
+  // Mode from the first button checked. A shift that takes the first pasted element beyond
+  // what a routine can hold is refused, in a message box and false, with nothing changed.
   bool CloseWindow(int id);
 
   static const char* TexteMode(int id);  // the text of radio button id
@@ -28,4 +29,5 @@ public:
   bool Coche[5] = {};  // buttons 551 to 555
   std::string Decalage;
   ParamTBDColler* Param;
+  float TempsDebut = 0;  // the time of the first element to paste, which the shift moves
 };

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "model/Bornes.h"
 #include "platform/Dialogues.h"
 
 namespace {
@@ -56,10 +57,19 @@ bool TBD_InsererFic::CloseWindow(int id) {
                       i + 1, j + 1);
         return Refuse(texte, titre);
       }
+  const int temps = Lit(Temps, Param->Temps);
+  if (Calcul || Decaler) {
+    const double decalage = Decaler ? temps : Param->DecalageCalcule;
+    for (int i = 0; i < NbLignes; ++i) {
+      const int c = corr[i] - 1;
+      if (!TempsAdmis(Param->TempsMin[c] + decalage) || !TempsAdmis(Param->TempsMax[c] + decalage))
+        return Refuse("Décalage en temps hors limites !!!", "Pb Insérer Fichier");
+    }
+  }
   Param->DecalageX = dx;
   Param->DecalageY = dy;
   for (int i = 0; i < NB_CV_MAX; ++i) Param->Correspondance[i] = corr[i];
-  Param->Temps = Lit(Temps, Param->Temps);
+  Param->Temps = temps;
   Param->Conserver = Conserver;
   Param->Calcul = Calcul;
   Param->Decaler = Decaler;

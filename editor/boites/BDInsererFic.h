@@ -15,6 +15,11 @@ struct ParamTBDInsererFic {
   int DecalageY = 0;
   int Correspondance[NB_CV_MAX] = {1, 2, 3, 4, 5, 6};  // from 1
   int NbCVFichier = 1;  // highest kite number of the file, plus 1
+  // The earliest and latest end times of each kite of the file, and the shift that Calcul
+  // gives: what the shift of the times is checked against.
+  float TempsMin[NB_CV_MAX] = {};
+  float TempsMax[NB_CV_MAX] = {};
+  float DecalageCalcule = 0;
 };
 
 class TBD_InsererFic {
@@ -33,7 +38,8 @@ public:
   TBD_InsererFic(ParamTBDInsererFic* param, int nbCVDocument) : Param(param), NbLignes(nbCVDocument) {}
   // The controls take the settings; only the first NbLignes kites are shown.
   void SetupWindow();
-  // With OK (1): checks the shifts and the correspondence in that order, the first fault
+  // With OK (1): checks the shifts in x and y, the correspondence, then the shift in time,
+  // which may take no time of a kite taken beyond what a routine can hold; the first fault
   // in a message box and false, with nothing changed; otherwise the settings are stored.
   bool CloseWindow(int id);
 
