@@ -3,7 +3,7 @@
 #include "demo/D3DDemo.h"
 #include "demo/player/FenApp.h"
 #include "editor/FenDessin.h"
-#include "platform/qt/editeur/QFeuille.h"
+#include "gui/editeur/QFeuille.h"
 #include "model/Document.h"
 #include "platform/Rendu.h"
 #include "platform/Son.h"

@@ -1,10 +1,10 @@
 #pragma once
 // The application: its dialogs and its two windows. The player draws its scene itself, when
 // it has something new to show.
-#include "platform/qt/QtDialogues.h"
-#include "platform/qt/editeur/QFenCadre2.h"
-#include "platform/qt/lecteur/QFenCadre.h"
-#include "platform/sdl/SonSDL.h"
+#include "gui/qt/QtDialogues.h"
+#include "gui/editeur/QFenCadre2.h"
+#include "gui/lecteur/QFenCadre.h"
+#include "gui/son/SonSDL.h"
 
 #include <QObject>
 #include <memory>

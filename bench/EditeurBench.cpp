@@ -35,7 +35,7 @@
 #include "model/Elt.h"
 #include "platform/DCJournal.h"
 #include "platform/Dialogues.h"
-#include "platform/qt/DCQt.h"
+#include "gui/qt/DCQt.h"
 
 namespace {
 

@@ -21,7 +21,7 @@
 #include "model/Document.h"
 #include "platform/DCJournal.h"
 #include "platform/Dialogues.h"
-#include "platform/qt/DCQt.h"
+#include "gui/qt/DCQt.h"
 
 namespace {
 

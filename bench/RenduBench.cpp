@@ -15,9 +15,9 @@
 #include "demo/Demonstration.h"
 #include "model/Document.h"
 #include "platform/Horloge.h"
-#include "platform/gl/RenduGL.h"
-#include "platform/gl/ServeurX.h"
-#include "platform/gl/SurfaceHorsEcran.h"
+#include "gui/gl/RenduGL.h"
+#include "gui/gl/ServeurX.h"
+#include "gui/gl/SurfaceHorsEcran.h"
 
 namespace {
 

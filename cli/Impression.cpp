@@ -13,7 +13,7 @@
 #include "files/Lecture.h"
 #include "model/Document.h"
 #include "platform/Dialogues.h"
-#include "platform/qt/ImprimanteQt.h"
+#include "gui/qt/ImprimanteQt.h"
 
 namespace {
 

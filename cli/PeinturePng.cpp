@@ -7,7 +7,7 @@
 #include <QPainter>
 
 #include "editor/FenDessin.h"
-#include "platform/qt/DCQt.h"
+#include "gui/qt/DCQt.h"
 
 bool PeintPng(TFenDessin& feuille, int largeur, const std::string& chemin) {
   // Fonts need a GUI application, but no display.

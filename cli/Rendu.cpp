@@ -15,10 +15,10 @@
 #include "editor/FenDessin.h"
 #include "files/Lecture.h"
 #include "model/Document.h"
-#include "platform/gl/RenduGL.h"
-#include "platform/gl/ServeurX.h"
+#include "gui/gl/RenduGL.h"
+#include "gui/gl/ServeurX.h"
 #include "platform/Types.h"
-#include "platform/gl/SurfaceHorsEcran.h"
+#include "gui/gl/SurfaceHorsEcran.h"
 
 namespace {
 bool LitEntier(const std::string& texte, int& valeur) {

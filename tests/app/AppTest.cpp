@@ -7,7 +7,7 @@
 #include "support/Doubles.h"
 #include "app/App.h"
 #include "editor/FenDessin.h"
-#include "platform/qt/editeur/QFeuille.h"
+#include "gui/editeur/QFeuille.h"
 #include "model/Document.h"
 
 #include <QAction>

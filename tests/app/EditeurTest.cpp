@@ -10,12 +10,12 @@
 #include "editor/bars/BD.h"
 #include "model/Elt.h"
 #include "model/Document.h"
-#include "platform/qt/editeur/QBande.h"
-#include "platform/qt/editeur/QBarre.h"
-#include "platform/qt/editeur/QBoiteColler.h"
-#include "platform/qt/editeur/QBoiteFeuille.h"
-#include "platform/qt/editeur/QBoiteInsererFic.h"
-#include "platform/qt/editeur/QFeuille.h"
+#include "gui/editeur/QBande.h"
+#include "gui/editeur/QBarre.h"
+#include "gui/editeur/QBoiteColler.h"
+#include "gui/editeur/QBoiteFeuille.h"
+#include "gui/editeur/QBoiteInsererFic.h"
+#include "gui/editeur/QFeuille.h"
 #include "support/Attendu.h"
 
 #include <QAction>

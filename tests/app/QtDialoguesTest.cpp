@@ -5,10 +5,10 @@
 #include "editor/boites/BDColler.h"
 #include "editor/boites/BDFeuille.h"
 #include "editor/boites/BDInsererFic.h"
-#include "platform/qt/QtDialogues.h"
-#include "platform/qt/editeur/QBoiteColler.h"
-#include "platform/qt/editeur/QBoiteFeuille.h"
-#include "platform/qt/editeur/QBoiteInsererFic.h"
+#include "gui/qt/QtDialogues.h"
+#include "gui/editeur/QBoiteColler.h"
+#include "gui/editeur/QBoiteFeuille.h"
+#include "gui/editeur/QBoiteInsererFic.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -1,0 +1,140 @@
+#include "gui/lecteur/QFenCadre.h"
+
+#include "demo/player/Commandes.h"
+#include "demo/player/FenApp.h"
+#include "gui/qt/Cadre.h"
+#include "gui/qt/Gadgets.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QFontMetrics>
+#include <QIcon>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QWindowStateChangeEvent>
+
+
+// The pictures of the buttons live in a static library: their resources must be asked for,
+// from outside any namespace, or the linker leaves them out.
+static void ChargeIcones() { Q_INIT_RESOURCE(lecteur); }
+
+QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
+  ChargeIcones();
+  setWindowTitle(QString::fromUtf8(TITRE_LECTEUR));
+  vue_ = new QVue3D(this);
+  setCentralWidget(vue_);
+  CreeMenu();
+  CreeBarre();
+  CreeBarreStatut();
+  new TPlacementCadre(this, QRect(X_LECTEUR, Y_LECTEUR, LARGEUR_LECTEUR, HAUTEUR_LECTEUR));
+
+  cadence_ = new QCadence(this, [this] { return cadre_.Client().ImageAttendue(); },
+                          [this] { return cadre_.Client().IdleAction(); });
+  cadre_.SetVue(this);
+  for (int z = 0; z < NB_ZONES_LECTEUR; ++z)
+    TexteChange(static_cast<TZoneLecteur>(z), cadre_.GetTexte(static_cast<TZoneLecteur>(z)));
+  EquipeCochee(cadre_.GetEquipeCochee());
+  vue_->SetPeinture([this] { cadre_.Client().Paint(); });
+  // After the resize has been taken in: a frame resized from inside its own resize is
+  // undone by the window system's answer to the first one.
+  vue_->SetRedimensionnement([this] {
+    QMetaObject::invokeMethod(this, [this] { Redimensionne(TTypeTaille::Normale); }, Qt::QueuedConnection);
+  });
+}
+
+QFenCadre::~QFenCadre() { cadre_.SetVue(nullptr); }
+
+QAction* QFenCadre::NouvelleAction(unsigned id) {
+  auto* a = new QAction(QString::fromUtf8(TexteCommande(id)), this);
+  connect(a, &QAction::triggered, this, [this, id] { cadre_.Client().Trt_Menu(id); });
+  actions_[id] = a;
+  return a;
+}
+
+QAction* QFenCadre::Action(unsigned id) const {
+  const auto it = actions_.find(id);
+  return it == actions_.end() ? nullptr : it->second;
+}
+
+void QFenCadre::CreeMenu() {
+  auto* equipes = new QActionGroup(this);
+  for (const TMenuDeroulant& deroulant : MenuLecteur()) {
+    QMenu* menu = menuBar()->addMenu(QString::fromUtf8(deroulant.Titre));
+    for (const TEntreeMenu& entree : deroulant.Entrees) {
+      if (entree.Id == 0) {
+        menu->addSeparator();
+        continue;
+      }
+      QAction* a = NouvelleAction(entree.Id);
+      if (entree.Id >= CM_TEAM1 && entree.Id < CM_TEAM1 + NB_TEAMS) {
+        a->setCheckable(true);
+        equipes->addAction(a);
+      }
+      menu->addAction(a);
+    }
+  }
+}
+
+void QFenCadre::CreeBarre() {
+  QToolBar* barre = addToolBar(QStringLiteral("Lecture"));
+  barre->setMovable(false);
+  QFont police = barre->font();
+  police.setPointSize(TAILLE_POLICE_BARRE_LECTEUR);
+  barre->setFont(police);
+  barre->setIconSize(QSize(20, 20));
+  ConstruitBarre(
+      barre, BarreLecteur(), QStringLiteral(":/icones-lecteur/"),
+      [this](unsigned id) {
+        QAction* a = Action(id);
+        return a ? a : NouvelleAction(id);
+      },
+      [&](const TGadgetBarre& g) {
+        return zones_[static_cast<int>(TZoneLecteur::Debut)] = Gadget(barre, g.Largeur);
+      });
+}
+
+void QFenCadre::CreeBarreStatut() {
+  QStatusBar* barre = statusBar();
+  zones_[static_cast<int>(TZoneLecteur::Message)] = new QLabel(barre);
+  barre->addWidget(zones_[static_cast<int>(TZoneLecteur::Message)], 1);
+  const TZoneLecteur zones[] = {TZoneLecteur::T, TZoneLecteur::V, TZoneLecteur::Pas};
+  for (const TGadgetStatut& g : BarreStatutLecteur()) {
+    const TZoneLecteur zone = g.Id == GADGET_T ? zones[0] : g.Id == GADGET_V ? zones[1] : zones[2];
+    zones_[static_cast<int>(zone)] = Gadget(barre, g.Largeur);
+    barre->addPermanentWidget(zones_[static_cast<int>(zone)]);
+  }
+}
+
+void QFenCadre::TexteChange(TZoneLecteur zone, const std::string& texte) {
+  if (QLabel* l = Zone(zone)) l->setText(QString::fromStdString(texte));
+}
+
+void QFenCadre::EquipeCochee(int team) {
+  if (QAction* a = Action(CM_TEAM1 + static_cast<unsigned>(team) - 1)) a->setChecked(true);
+}
+
+void QFenCadre::closeEvent(QCloseEvent* evenement) {
+  if (cadre_.CanClose())
+    evenement->accept();
+  else
+    evenement->ignore();
+}
+
+void QFenCadre::changeEvent(QEvent* evenement) {
+  QMainWindow::changeEvent(evenement);
+  if (evenement->type() != QEvent::WindowStateChange) return;
+  if (isMinimized())
+    Redimensionne(TTypeTaille::Minimisee);
+  else if (static_cast<QWindowStateChangeEvent*>(evenement)->oldState() & Qt::WindowMinimized)
+    Redimensionne(TTypeTaille::Normale);
+}
+
+void QFenCadre::Redimensionne(TTypeTaille type) {
+  const QSize client = vue_->size();
+  const int hauteur = cadre_.EvSize(type, height(), client.width(), client.height());
+  if (type == TTypeTaille::Normale && hauteur != height() && !isMaximized() && !isFullScreen())
+    resize(width(), hauteur);
+}
