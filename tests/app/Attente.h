@@ -1,5 +1,7 @@
 #pragma once
 // Lets the event loop run until a condition holds, for what the X server does in its own time.
+// A busy machine makes the server and the software GL slow, never wrong: only a condition that
+// still fails after a minute is a fault.
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -9,8 +11,8 @@
 #include <functional>
 
 template <class Condition>
-bool AttendQue(Condition condition, int delaiMs = 5000) {
-  QDeadlineTimer limite(delaiMs);
+bool AttendQue(Condition condition) {
+  QDeadlineTimer limite(60000);
   while (!condition()) {
     if (limite.hasExpired()) return false;
     QCoreApplication::processEvents(QEventLoop::AllEvents, 20);

@@ -91,7 +91,7 @@ protected:
   }
   // In the next file dialog, the user goes to the folder, types `nom` and clicks the button.
   void RepondFichier(const char* nom) {
-    QuandOuvert<QFileDialog>([this, nom](QFileDialog* d) {
+    Pilote<QFileDialog>([this, nom](QFileDialog* d) {
       auto* edit = d->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
       ASSERT_NE(edit, nullptr);
       // The completer's list would take the keys meant for the dialog.
@@ -99,12 +99,14 @@ protected:
       d->setDirectory(QString::fromStdString(dossier.string()));
       edit->clear();
       QTest::keyClicks(edit, QString::fromUtf8(nom));
-      // The dialog names its button after what the name typed so far designates.
-      QApplication::processEvents();
+      // The dialog names its button, and enables it, after what the name typed so far
+      // designates, which its file model may learn a moment later.
       QPushButton* bouton = nullptr;
-      for (QPushButton* b : d->findChildren<QPushButton*>())
-        if (b->isDefault()) bouton = b;
-      ASSERT_NE(bouton, nullptr);
+      ASSERT_TRUE(AttendQue([&] {
+        for (QPushButton* b : d->findChildren<QPushButton*>())
+          if (b->isDefault()) bouton = b;
+        return bouton && bouton->isEnabled();
+      })) << "the dialog's button stayed disabled";
       QTest::mouseClick(bouton, Qt::LeftButton);
     });
   }

@@ -9,6 +9,8 @@
 #include "demo/player/FenApp.h"
 #include "model/Document.h"
 #include "platform/Donnees.h"
+#include "platform/Horloge.h"
+#include "support/Doubles.h"
 
 #include <QAction>
 #include <QImage>
@@ -26,6 +28,8 @@ class LecteurTest : public ::testing::Test {
 protected:
   void SetUp() override {
     ReinitialiseDocument();
+    // The scene runs on the test's clock, which moves only when a test moves it.
+    SetHorloge(&horloge);
     app = std::make_unique<TApp>();
     app->Demarre();
     lecteur = app->Lecteur();
@@ -35,11 +39,13 @@ protected:
   }
   void TearDown() override {
     app.reset();
+    SetHorloge(nullptr);
     ReinitialiseDocument();
   }
   std::string Texte(TZoneLecteur zone) { return lecteur->Zone(zone)->text().toStdString(); }
   int Temps() { return std::stoi(Texte(TZoneLecteur::T).substr(4)); }
 
+  THorlogeTest horloge;
   std::unique_ptr<TApp> app;
   QFenCadre* lecteur = nullptr;
 };
@@ -93,17 +99,23 @@ TEST_F(LecteurTest, StartsPausedOnOneKiteOverTheCloudsWithItsBarsFilled) {
   EXPECT_LT(kite.width(), image.width() / 6);
 }
 
+// The time shown follows the scene's clock to the hundredth, however late the frames come.
 TEST_F(LecteurTest, PlayAdvancesTheTimeAndPauseHoldsIt) {
   lecteur->Action(CM_LECTURE)->trigger();
   EXPECT_EQ(Texte(TZoneLecteur::Message), "Lecture avant");
-  ASSERT_TRUE(AttendQue([&] { return Temps() >= 30; }, 5000)) << Texte(TZoneLecteur::T);
+  horloge.Ms += 300;
+  ASSERT_TRUE(AttendQue([&] { return Temps() == 30; })) << Texte(TZoneLecteur::T);
 
   lecteur->Action(CM_PAUSE)->trigger();
   EXPECT_EQ(Texte(TZoneLecteur::Message), "Pause Lecture");
-  AttendQue([] { return false; }, 200);
-  const int arret = Temps();
-  AttendQue([] { return false; }, 300);
-  EXPECT_EQ(Temps(), arret);
+  horloge.Ms += 5000;
+  // A turn of the camera draws a frame of the paused scene at the clock's new time.
+  const long long images = lecteur->Cadence().Images();
+  lecteur->Action(CM_ROTATION_GAUCHE)->trigger();
+  ASSERT_TRUE(AttendQue([&] {
+    return lecteur->Cadence().Images() > images && !lecteur->Cadre().Client().ImageAttendue();
+  }));
+  EXPECT_EQ(Temps(), 30);
 
   lecteur->Action(CM_PLUS_RAPIDE)->trigger();
   EXPECT_EQ(Texte(TZoneLecteur::V), "V = 1.2");
@@ -112,7 +124,7 @@ TEST_F(LecteurTest, PlayAdvancesTheTimeAndPauseHoldsIt) {
 TEST_F(LecteurTest, FrameGrowsTallerWhenDraggedWider) {
   const int hauteur = lecteur->height();
   lecteur->resize(600, lecteur->height());
-  ASSERT_TRUE(AttendQue([&] { return lecteur->Vue()->width() == 600 && lecteur->Vue()->height() == 300; }, 3000))
+  ASSERT_TRUE(AttendQue([&] { return lecteur->Vue()->width() == 600 && lecteur->Vue()->height() == 300; }))
       << lecteur->Vue()->width() << "x" << lecteur->Vue()->height();
   EXPECT_EQ(lecteur->height(), hauteur + 100);
   // The scene goes on, drawn at the new size.
@@ -121,19 +133,19 @@ TEST_F(LecteurTest, FrameGrowsTallerWhenDraggedWider) {
   EXPECT_TRUE(AttendQue([&] {
     const auto* image = lecteur->Vue()->Rendu().ImageCourante();
     return image && image->size() == attendue;
-  }, 2000));
+  }));
 }
 
 TEST_F(LecteurTest, MinimisedPlayerStopsDrawingAndRestoredDrawsAgain) {
   lecteur->showMinimized();
-  ASSERT_TRUE(AttendQue([&] { return Globals.blActif == 0; }, 3000));
+  ASSERT_TRUE(AttendQue([&] { return Globals.blActif == 0; }));
   EXPECT_EQ(Globals.blDemoOK, 1);  // the scene stays
   lecteur->Action(CM_LECTURE)->trigger();
   EXPECT_FALSE(lecteur->Cadre().Client().ImageAttendue()) << "playing, minimised";
   const long long images = lecteur->Cadence().Images();
   lecteur->showNormal();
-  ASSERT_TRUE(AttendQue([&] { return Globals.blActif == 1; }, 3000));
-  EXPECT_TRUE(AttendQue([&] { return lecteur->Cadence().Images() > images; }, 2000));
+  ASSERT_TRUE(AttendQue([&] { return Globals.blActif == 1; }));
+  EXPECT_TRUE(AttendQue([&] { return lecteur->Cadence().Images() > images; }));
 }
 
 TEST_F(LecteurTest, ChoosingATeamRebuildsTheSceneWithItsModels) {

@@ -95,7 +95,21 @@ inline TSortie LitSortie(const std::filesystem::path& fichier) {
 
 inline long TramesDe(int ms) { return static_cast<long>(ms) * FREQUENCE / 1000; }
 
-inline void Attends(int ms) { std::this_thread::sleep_for(std::chrono::milliseconds(ms)); }
+// How far the driver's file may lag behind what the mixer has done, in frames: a buffer
+// mixed and not yet written, another held by the C library, and room for two more.
+inline constexpr long RETARD_ECRITURE = 4 * 1024;
+
+// Asks `condition` again and again until it holds. The driver plays in about real time, much
+// later on a busy machine: only a minute without it means it never will.
+template <class Condition>
+bool Attends(Condition condition) {
+  const auto limite = std::chrono::steady_clock::now() + std::chrono::minutes(1);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > limite) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return true;
+}
 
 // A scratch folder holding a four-second ramp, and SDL's disk driver writing into it for
 // every device opened meanwhile. The driver's own pacing, one buffer's length per buffer
@@ -121,8 +135,18 @@ public:
   TBancSon& operator=(const TBancSon&) = delete;
 
   std::filesystem::path Rampe() const { return Dossier / "rampe.wav"; }
-  // To be read once the device is closed: the driver completes its file only then.
+  // Whole once the device is closed; while it is open, up to RETARD_ECRITURE frames behind.
   TSortie Sortie() const { return LitSortie(Dossier / "sortie.raw"); }
+  long TramesEcrites() const {
+    std::error_code e;
+    const auto octets = std::filesystem::file_size(Dossier / "sortie.raw", e);
+    return e ? 0 : static_cast<long>(octets / 4);
+  }
+  // Until what the driver has written so far satisfies `condition`.
+  template <class Condition>
+  bool AttendsSortie(Condition condition) const {
+    return Attends([&] { return condition(Sortie()); });
+  }
 
   const std::filesystem::path Dossier;
 };

@@ -26,31 +26,36 @@ TEST_F(SonSDLTest, PlaysFromTheAskedMillisecondUntilStopped) {
   ASSERT_EQ(son->Ouvrir(banc.Rampe().string(), "musique"), 0);
   ASSERT_EQ(son->Jouer("musique", 1500), 0);
   EXPECT_TRUE(son->EnLecture("musique"));
-  Attends(150);
+  ASSERT_TRUE(banc.AttendsSortie([](const TSortie& s) { return !s.Passages.empty(); })) << "nothing played";
   ASSERT_EQ(son->Jouer("musique", 250), 0);  // a second start, backwards, while playing
   EXPECT_EQ(son->DernierDepartMs(), 250);
-  Attends(150);
+  ASSERT_TRUE(banc.AttendsSortie([](const TSortie& s) { return s.Passages.size() >= 2; }))
+      << "the second start played nothing";
   EXPECT_EQ(son->Arreter("musique"), 0);
   EXPECT_FALSE(son->EnLecture("musique"));
-  Attends(150);
+  // All that was mixed before the stop is in the file by `arret`; after it, a tenth of a
+  // second more, which must be silence.
+  const long arret = banc.TramesEcrites() + RETARD_ECRITURE;
+  ASSERT_TRUE(banc.AttendsSortie([arret](const TSortie& s) { return s.Trames >= arret + TramesDe(100); }));
 
   const TSortie s = Sortie();
   ASSERT_EQ(s.Passages.size(), 2u);
-  EXPECT_NEAR(s.Passages[0].Premiere, TramesDe(1500), TramesDe(2));
-  EXPECT_NEAR(s.Passages[1].Premiere, TramesDe(250), TramesDe(2));
-  EXPECT_GT(s.Passages[1].Longueur, TramesDe(50));
-  EXPECT_GE(s.SilenceFinal, TramesDe(100));  // stopped, not played on
+  // Each start's first frame is the file's frame at that millisecond, to the frame.
+  EXPECT_EQ(s.Passages[0].Premiere, TramesDe(1500));
+  EXPECT_EQ(s.Passages[1].Premiere, TramesDe(250));
+  EXPECT_LE(s.Passages[1].Debut + s.Passages[1].Longueur, arret) << "played on after the stop";
 }
 
 TEST_F(SonSDLTest, PlaysToTheEndOfTheFileThenFallsSilent) {
   ASSERT_EQ(son->Ouvrir(banc.Rampe().string(), "musique"), 0);
   ASSERT_EQ(son->Jouer("musique", 3900), 0);
-  Attends(400);
-  EXPECT_FALSE(son->EnLecture("musique"));
+  EXPECT_TRUE(son->EnLecture("musique"));
+  ASSERT_TRUE(Attends([&] { return !son->EnLecture("musique"); })) << "never came to the end";
   EXPECT_EQ(son->Arreter("musique"), 0);
 
   const TSortie s = Sortie();
   ASSERT_EQ(s.Passages.size(), 1u);
+  EXPECT_EQ(s.Passages[0].Premiere, TramesDe(3900));
   EXPECT_EQ(s.Passages[0].Premiere + s.Passages[0].Longueur, TramesDe(4000));
   EXPECT_GT(s.SilenceFinal, 0);
 }
@@ -118,12 +123,12 @@ TEST_F(SonSDLTest, APathWithBlanksAndAccentsPlays) {
   std::filesystem::copy_file(banc.Rampe(), fichier);
   ASSERT_EQ(son->Ouvrir(fichier.string(), "musique"), 0);
   ASSERT_EQ(son->Jouer("musique", 1000), 0);
-  Attends(100);
+  ASSERT_TRUE(banc.AttendsSortie([](const TSortie& s) { return !s.Passages.empty(); })) << "nothing played";
   son->Arreter("musique");
 
   const TSortie s = Sortie();
   ASSERT_EQ(s.Passages.size(), 1u);
-  EXPECT_NEAR(s.Passages[0].Premiere, TramesDe(1000), TramesDe(2));
+  EXPECT_EQ(s.Passages[0].Premiere, TramesDe(1000));
 }
 
 TEST_F(SonSDLTest, WithoutADeviceNothingOpensUntilOneIsThere) {
