@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 #include <string_view>
+#include <unistd.h>
 
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
@@ -47,8 +48,11 @@ public:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t taille) {
   static TDialoguesInsertion dialogues;
+  // A file of this process's own: replays run side by side (both builds, other checkouts)
+  // would otherwise insert each other's bytes.
   if (dialogues.Chemin.empty())
-    dialogues.Chemin = (std::filesystem::temp_directory_path() / "traj_fuzz_insertion.rou").string();
+    dialogues.Chemin =
+        (std::filesystem::temp_directory_path() / ("traj_fuzz_insertion_" + std::to_string(getpid()) + ".rou")).string();
   SetDialogues(&dialogues);
   const std::string_view octets(reinterpret_cast<const char*>(donnees), taille);
   ReinitialiseDocument();
@@ -71,5 +75,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t t
     (void)texte;
     ReinitialiseDocument();
   }
+  std::error_code erreur;
+  std::filesystem::remove(dialogues.Chemin, erreur);
   return 0;
 }
