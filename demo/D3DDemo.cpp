@@ -235,6 +235,8 @@ void TD3DDemo::Go() {
   if (long res = Rendu.Affiche()) return DXERROR_Direct3DRM(FichierJournal(), 5, res);
 }
 
+void TD3DDemo::RepartDeMaintenant() { TickReference = Horloge().GetTickCount(); }
+
 bool TD3DDemo::EnMouvement() const {
   if (_Debut) return true;
   switch (Mode) {

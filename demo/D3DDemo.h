@@ -39,6 +39,8 @@ public:
   // Whether the next Go would show another picture than the last one, with nothing but the
   // clock changed: playing away from the end it holds at, a step not yet taken, a restart.
   bool EnMouvement() const;
+  // The clock counts from now: for a scene held still, which drew no frame meanwhile.
+  static void RepartDeMaintenant();
 
   // What Go keeps from one call to the next, across scenes; back to their start values.
   static void ReinitialiseStatiques();

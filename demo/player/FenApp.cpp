@@ -138,6 +138,9 @@ void TFenApp::Trt_Menu(unsigned id) {
 }
 
 void TFenApp::Transport(TD3DDemo& s, unsigned id) {
+  // A scene held still draws no frame, so the clock's reference is where the hold began:
+  // what comes next counts from now, as it would after a frame drawn at each idle step.
+  if (!s.EnMouvement()) TD3DDemo::RepartDeMaintenant();
   switch (id) {
     case CM_LECTURE:
       s.Mode = MODE_AVANT;

@@ -366,6 +366,11 @@ protected:
          }},
         {"peint", [&] { Dit(App().Paint() ? "une scène à dessiner" : "rien à dessiner"); }},
         {"menu", [&] { App().Trt_Menu(Commande(Sans(reste))); }},
+        {"horloge",
+         [&] {
+           // Time passes and the player draws nothing, as a scene held still.
+           horloge.Ms += static_cast<std::uint32_t>(E(a, 0));
+         }},
         {"attends",
          [&] {
            horloge.Ms += static_cast<std::uint32_t>(E(a, 0));
