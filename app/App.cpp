@@ -34,6 +34,7 @@ void TApp::Demarre() {
   SetSon(&son_);
   lecteur_ = std::make_unique<QFenCadre>();
   SetRendu(&lecteur_->Vue()->Rendu());
+  suivi_ = std::make_unique<QSuiviModification>();
   editeur_->show();
   lecteur_->show();
 }

@@ -5,6 +5,7 @@
 #include "gui/editeur/QFenCadre2.h"
 #include "gui/lecteur/QFenCadre.h"
 #include "gui/son/SonSDL.h"
+#include "gui/session/SuiviModification.h"
 
 #include <QObject>
 #include <memory>
@@ -29,6 +30,7 @@ private:
   TSonSDL son_;
   std::unique_ptr<QFenCadre2> editeur_;
   std::unique_ptr<QFenCadre> lecteur_;
+  std::unique_ptr<QSuiviModification> suivi_;
 };
 
 // Whether Qt can reach a display: a DISPLAY or WAYLAND_DISPLAY in the environment, or a

@@ -27,6 +27,7 @@
 #include "platform/DCJournal.h"
 #include "platform/Dialogues.h"
 #include "platform/Types.h"
+#include "session/Modification.h"
 #include "DialoguesScript.h"
 #include "EditeurScript.h"
 
@@ -65,10 +66,10 @@ std::string Position(TElt* e) {
 void Etat(const TFenCadre2& cadre) {
   std::string onglets;
   for (int i = 0; i < cadre.nbFeuilles; ++i) onglets += (i ? "|" : "") + cadre.GetLabelOnglet(i);
-  std::printf("STATE %d %d %d %s %s %s %d %d %d %s\n", TFenDessin::Fonction, TFenDessin::Etape, TFenDessin::nCV,
+  std::printf("STATE %d %d %d %s %s %s %d %d %d %s %s\n", TFenDessin::Fonction, TFenDessin::Etape, TFenDessin::nCV,
               Position(TFenDessin::pEltCourant).c_str(), Position(TFenDessin::pEltCourant2).c_str(),
               Position(TFenDessin::pEltSel).c_str(), nbCV, cadre.nbFeuilles,
-              cadre.pFenDesActive ? cadre.pFenDesActive->Num : 0, onglets.c_str());
+              cadre.pFenDesActive ? cadre.pFenDesActive->Num : 0, onglets.c_str(), DocumentModifie() ? "M" : "-");
   // Kept in order with the messages when both streams go to one file.
   std::fflush(stdout);
 }
@@ -258,6 +259,8 @@ int Rejoue(const std::vector<std::string>& args) {
       return 2;
     }
     vue.Peint();
+    // As the window does once each action of the user has run.
+    VerifieModification();
     if (dialogues.Issue != TIssue::Continue) {
       std::fprintf(stderr, "trajectoires-cli : %s, ligne %d : %s\n", script.c_str(), numero, dialogues.Message.c_str());
       return dialogues.Issue == TIssue::Usage ? 2 : 1;

@@ -9,6 +9,7 @@
 #include "model/Document.h"
 #include "model/Elt.h"
 #include "platform/Dialogues.h"
+#include "session/Modification.h"
 
 TFenCadre2::TFenCadre2() : FenListe(std::make_unique<TFenListe>(this)) {
   FichierRoutine[0] = '\0';
@@ -25,7 +26,11 @@ TFenCadre2::~TFenCadre2() {
   if (TFenDessin::Imp.pFenCadre == this) TFenDessin::Imp.pFenCadre = nullptr;
 }
 
-void TFenCadre2::SetupWindow() { AddFeuille(); }
+void TFenCadre2::SetupWindow() {
+  AddFeuille();
+  // The document as the editor starts: nothing to lose yet.
+  MarqueIntact();
+}
 
 void TFenCadre2::SetHauteurs(int barreControle, int onglets, int statut) {
   HauteurBarreControle = barreControle;

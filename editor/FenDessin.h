@@ -73,8 +73,9 @@ public:
 
   // The file commands (Fichiers.cpp).
   void Ouvrir();
-  // Opens chemin as "&Ouvrir" does once the dialog has answered.
-  void Ouvrir(const std::string& chemin);
+  // Opens chemin as "&Ouvrir" does once the dialog has answered. With a nom, the document
+  // reads chemin but takes nom as its name (a recovery copy takes its original's).
+  void Ouvrir(const std::string& chemin, const std::string& nom = {});
   void Enregistrer();
   void EnregistrerSous();
   void EnregistrerSelection();

@@ -14,6 +14,7 @@
 #include "model/Outils.h"
 #include "model/elements/Pt.h"
 #include "platform/Dialogues.h"
+#include "session/Modification.h"
 
 namespace {
 TDialogueFichier DialogueOuvrir{"Ouvrir Fichier Routine", "fichiers routine ROU | *.rou|fichiers figure  FIG | *.fig|",
@@ -47,13 +48,14 @@ void TFenDessin::Ouvrir() {
   if (chemin) Ouvrir(*chemin);
 }
 
-void TFenDessin::Ouvrir(const std::string& chemin) {
+void TFenDessin::Ouvrir(const std::string& chemin, const std::string& nomDonne) {
   // This sheet may be one of those the new routine does without: once they go, only the
   // frame is used.
   TFenCadre2* const cadre = pFenCadre;
+  const std::string& nom = nomDonne.empty() ? chemin : nomDonne;
   SetCurseur(TCurseur::Attente);
-  CopieChemin(FichierRoutine, sizeof FichierRoutine, chemin);
-  if (cadre) cadre->SetTitre("Dessin Trajectoires : " + chemin);
+  CopieChemin(FichierRoutine, sizeof FichierRoutine, nom);
+  if (cadre) cadre->SetTitre("Dessin Trajectoires : " + nom);
   pEltSynchro = nullptr;
   // The document is emptied first: a file that can't be read leaves an empty routine.
   const bool lu = cadre && LitRoutine(*cadre, chemin);
@@ -72,10 +74,14 @@ void TFenDessin::Ouvrir(const std::string& chemin) {
   SetCurseur(TCurseur::Fleche);
   if (cadre) cadre->Focus();
   if (pFenDes0) pFenDes0->MetAJourOnglets();
+  MarqueIntact();
 }
 
 bool TFenDessin::EcritRoutine(const std::string& chemin) {
-  if (EcritFichier(chemin, TexteRoutine())) return true;
+  if (EcritFichier(chemin, TexteRoutine())) {
+    MarqueIntact();
+    return true;
+  }
   Dialogues().MessageBox(PROBLEME_ENREGISTREMENT, " Enregistrer routine");
   return false;
 }

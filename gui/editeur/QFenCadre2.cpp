@@ -6,6 +6,7 @@
 #include "gui/qt/Gadgets.h"
 #include "gui/editeur/QBande.h"
 #include "gui/editeur/QFeuille.h"
+#include "session/Modification.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -57,9 +58,12 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
     if (i >= 0 && i != cadre_.GetOngletActif()) cadre_.TabSelChange(i);
   });
   new TPlacementCadre(this, QRect(20, 20, 600, 600));
+  observateur_ = AjouteObservateurModification([this](bool modifie) { setWindowModified(modifie); });
+  setWindowModified(DocumentModifie());
 }
 
 QFenCadre2::~QFenCadre2() {
+  RetireObservateurModification(observateur_);
   cadre_.SetVue(nullptr);
   // The bars' widgets go while the sheets their elements draw on are still there.
   delete bande_;
@@ -172,7 +176,8 @@ void QFenCadre2::Invalide(TFenDessin* feuille, const TRect& r) {
 }
 
 void QFenCadre2::Textes() {
-  setWindowTitle(QString::fromStdString(cadre_.GetTitre()));
+  // Qt shows "[*]" as a star while the document holds unsaved changes.
+  setWindowTitle(QString::fromStdString(cadre_.GetTitre()) + QStringLiteral("[*]"));
   position_->setText(QString::fromStdString(cadre_.GetTextePosition()));
   if (synchro_) synchro_->setText(QString::fromStdString(cadre_.GetTexteGadgetSynchro()));
   for (unsigned id : {CM_MAJ_PERMANENTE, CM_MAJ_PARTIELLE})

@@ -59,4 +59,5 @@ private:
   QLabel* position_ = nullptr;
   QLabel* synchro_ = nullptr;
   std::map<unsigned, QAction*> actions_;
+  int observateur_ = 0;  // the caption follows the document's modified state
 };
