@@ -4,10 +4,13 @@
 #include "demo/player/FenApp.h"
 #include "editor/FenDessin.h"
 #include "gui/editeur/QFeuille.h"
+#include "gui/qt/Traductions.h"
+#include "gui/session/Reglages.h"
 #include "model/Document.h"
 #include "platform/Rendu.h"
 #include "platform/Son.h"
 
+#include <QApplication>
 #include <QStatusBar>
 
 #include <cstdlib>
@@ -35,12 +38,19 @@ void TApp::Demarre() {
   lecteur_ = std::make_unique<QFenCadre>();
   SetRendu(&lecteur_->Vue()->Rendu());
   suivi_ = std::make_unique<QSuiviModification>();
+  SuitFichiersRecents();
   editeur_->show();
   lecteur_->show();
 }
 
 void TApp::Ouvre(const std::string& chemin) {
   if (TFenDessin* feuille = editeur_->Cadre().pFenDesActive) feuille->Ouvrir(chemin);
+}
+
+void PrepareApplication(QApplication& application) {
+  QCoreApplication::setOrganizationName(QStringLiteral("trajectoires"));
+  QCoreApplication::setApplicationName(QStringLiteral("trajectoires"));
+  ChargeTraductionsFrancaises(application);
 }
 
 bool AffichageDisponible(int argc, char** argv) {

@@ -8,6 +8,8 @@
 #include "gui/session/SuiviModification.h"
 
 #include <QObject>
+
+class QApplication;
 #include <memory>
 #include <string>
 
@@ -32,6 +34,10 @@ private:
   std::unique_ptr<QFenCadre> lecteur_;
   std::unique_ptr<QSuiviModification> suivi_;
 };
+
+// The program's name for its settings (~/.config/trajectoires/trajectoires.conf) and Qt's
+// French words, before any window.
+void PrepareApplication(QApplication& application);
 
 // Whether Qt can reach a display: a DISPLAY or WAYLAND_DISPLAY in the environment, or a
 // platform chosen by QT_QPA_PLATFORM or by "-platform" on the command line.

@@ -14,6 +14,7 @@ int main(int argc, char** argv) {
     return 1;
   }
   QApplication application(argc, argv);
+  PrepareApplication(application);
   // Qt takes the user's locale, numbers included; under a French one the C library would read
   // "12.5" in a routine as 12. Files are written with a point whatever the locale.
   std::setlocale(LC_NUMERIC, "C");

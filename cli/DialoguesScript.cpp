@@ -11,6 +11,11 @@
 TReponse TDialoguesScript::MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons, TIcone) {
   std::fprintf(stderr, "%s: %s\n", titre.c_str(), texte.c_str());
   if (boutons == TBoutons::OK) return TReponse::OK;  // nothing to choose
+  if (boutons == TBoutons::EnregistrerAbandonnerAnnuler) {
+    const std::optional<TReponseScript> r = Prend({"save", "discard", "cancel"});
+    if (!r || r->Genre == "cancel") return TReponse::Annuler;
+    return r->Genre == "save" ? TReponse::Oui : TReponse::Non;
+  }
   const std::optional<TReponseScript> r = Prend({"ok", "cancel"});
   if (!r || r->Genre == "cancel") return boutons == TBoutons::OKAnnuler ? TReponse::Annuler : TReponse::Non;
   return boutons == TBoutons::OKAnnuler ? TReponse::OK : TReponse::Oui;
@@ -105,7 +110,7 @@ bool TDialoguesScript::Ajoute(const std::vector<std::string>& mots, const std::s
     }
     return fin == s.size();
   };
-  if ((genre == "ok" || genre == "cancel") && n == 1) {
+  if ((genre == "ok" || genre == "cancel" || genre == "save" || genre == "discard") && n == 1) {
     Reponses.push_back({genre, {}});
   } else if ((genre == "file" || genre == "texte") && n >= 2) {
     Reponses.push_back({genre, {texte}});

@@ -41,6 +41,13 @@ constexpr int HAUTEUR_BANDE = 200;  // the strip under the sheets, which nothing
 class TVueRejeu : public TVueCadre2 {
 public:
   explicit TVueRejeu(TFenCadre2& cadre) : Cadre(cadre) {}
+  // The program would end here: the rest of the script is not run.
+  void Ferme() override {
+    std::printf("CLOSED\n");
+    std::fflush(stdout);
+    Fermee = true;
+  }
+  bool Fermee = false;
   void FeuilleActive() override { APeindre = true; }
   void Invalide(TFenDessin* feuille, const TRect&) override {
     if (feuille == Cadre.pFenDesActive) APeindre = true;
@@ -185,6 +192,8 @@ bool Evenement(const std::string& ligne, TFenCadre2& cadre, TDialoguesScript& di
       bd->Echap();  // the bar may be gone after this
     else
       MontreBarre(v[0], v[1], *bd);
+  } else if (e == "close" && m.size() == 1) {
+    cadre.Quitter();  // as the window's close box
   } else if (e == "state" && m.size() == 1) {
     Etat(cadre);
   } else if (e == "answer") {
@@ -261,6 +270,7 @@ int Rejoue(const std::vector<std::string>& args) {
     vue.Peint();
     // As the window does once each action of the user has run.
     VerifieModification();
+    if (vue.Fermee) break;
     if (dialogues.Issue != TIssue::Continue) {
       std::fprintf(stderr, "trajectoires-cli : %s, ligne %d : %s\n", script.c_str(), numero, dialogues.Message.c_str());
       return dialogues.Issue == TIssue::Usage ? 2 : 1;

@@ -25,6 +25,8 @@ void TFenDessin::Copier() {
   CopiePlage(*Tampon, pEltCourant2, pEltCourant);
   // A range never starts at a track's first element, so there is always one before it.
   if (TElt* avant = pEltCourant2->GetEltPrecedent()) PointDebutTampon = avant->Getp2Param();
+  const int n = Tampon->nbNoeud();
+  Dialogues().MessageStatut(n == 1 ? "1 élément copié" : std::to_string(n) + " éléments copiés");
 }
 
 void TFenDessin::Coller() {

@@ -6,6 +6,7 @@
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
 #include "editor/FenListe.h"
+#include "editor/MenuEditeur.h"
 #include "model/Document.h"
 #include "model/Elt.h"
 #include "model/Outils.h"
@@ -16,6 +17,8 @@
 #include "model/elements/Rot.h"
 #include "model/elements/Stop.h"
 #include "platform/Dialogues.h"
+#include "session/FichiersRecents.h"
+#include "session/Modification.h"
 
 namespace {
 void Statut(const std::string& texte) { Dialogues().MessageStatut(texte); }
@@ -44,9 +47,18 @@ void TFenDessin::Trt_Menu(unsigned id) {
       if (Printer) {
         static constexpr std::array<int, 4> parPage{1, 2, 4, 8};
         Imp.SetNbParPage(parPage[id - 256]);
-        Printer->Print(Imp, true);
+        if (Printer->Print(Imp, true)) {
+          const int n = Printer->GetPagesImprimees();
+          Statut("Impression envoyée : " + std::to_string(n) + (n == 1 ? " page" : " pages"));
+        }
       }
       break;
+    case CM_NOUVEAU: Nouveau(); break;
+    case CM_QUITTER:
+      if (pFenCadre) pFenCadre->Quitter();
+      break;
+    case CM_EFFACER_RECENTS: FichiersRecents().Efface(); break;
+    case CM_SUPPRIMER: Suppr(); break;
     case 260: EnregistrerFeuille(); break;
     case 261: OuvrirFeuille(); break;
     case 333: Undo(); break;
@@ -109,7 +121,9 @@ void TFenDessin::Trt_Menu(unsigned id) {
                                  "Suppression feuille", TBoutons::OKAnnuler, TIcone::Question) == TReponse::OK)
         pFenCadre->SupprFeuille();
       break;
-    default: break;
+    default:
+      if (id >= CM_PREMIER_RECENT && id < CM_PREMIER_RECENT + NB_FICHIERS_RECENTS) OuvrirRecent(id - CM_PREMIER_RECENT);
+      break;
   }
 }
 
@@ -182,6 +196,7 @@ void TFenDessin::AjoutCV(TDC& dc) {
     return;
   nCV = nbCV;
   ++nbCV;
+  MarqueModifie();
   SetCurseur(TCurseur::Fleche);
   Statut("- Modification -");
   AbandonneEnCours(dc);

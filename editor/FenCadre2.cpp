@@ -91,6 +91,7 @@ bool TFenCadre2::InsereFeuille() {
   Active(GetFeuille(n));
   precedente->MetAJourOnglets();
   pFenDesActive->MAJUnDo();
+  MarqueModifie();
   return true;
 }
 
@@ -152,6 +153,7 @@ void TFenCadre2::SupprFeuille(int n) {
   montree->MetAJourOnglets();
   Focus();
   montree->MAJUnDo();
+  MarqueModifie();
 }
 
 void TFenCadre2::SetClientFenDes() {
@@ -178,12 +180,34 @@ int TFenCadre2::GetOngletActif() const {
   return -1;
 }
 
+bool TFenCadre2::ConfirmePerte() {
+  if (!DocumentModifie()) return true;
+  switch (Dialogues().MessageBox("Enregistrer les modifications de « " + NomDocument() + " » avant de fermer ?",
+                                 "Dessin Trajectoires", TBoutons::EnregistrerAbandonnerAnnuler,
+                                 TIcone::Avertissement)) {
+    case TReponse::Oui:
+      // A save that fails, is refused or whose dialog is cancelled leaves the changes unsaved.
+      if (pFenDesActive) pFenDesActive->Enregistrer();
+      return !DocumentModifie();
+    case TReponse::Non: return true;
+    default: return false;
+  }
+}
+
 bool TFenCadre2::CanClose() {
-  // Nothing tracks unsaved changes: this box is the only guard.
-  if (Dialogues().MessageBox("Fermeture Définitive ?", "CV", TBoutons::OKAnnuler, TIcone::Question) !=
-      TReponse::OK)
+  if (DocumentModifie()) {
+    if (!ConfirmePerte()) return false;
+  } else if (Dialogues().MessageBox("Fermeture Définitive ?", "CV", TBoutons::OKAnnuler, TIcone::Question) !=
+             TReponse::OK) {
     return false;
+  }
   FermeDemo();  // the music and the scene end with the editor
+  return true;
+}
+
+bool TFenCadre2::Quitter() {
+  if (!CanClose()) return false;
+  if (Vue) Vue->Ferme();
   return true;
 }
 

@@ -48,8 +48,15 @@ public:
   void SetLabelOnglet(const std::string& texte, int i);
   // Bare labels "n - " for the sheets from number n on.
   void NumeroteOnglets(int n);
-  // Asks "Fermeture Définitive ?"; true when the user agrees to end the program.
+  // With unsaved changes, asks whether to save them first: true when the document may go,
+  // saved or let go; false when the user cancels or the save did not happen. Without
+  // changes, true at once.
+  bool ConfirmePerte();
+  // With unsaved changes, the question of ConfirmePerte; without, "Fermeture Définitive ?".
+  // True when the program may end.
   bool CanClose();
+  // "&Quitter": as closing the window; the view is told to end when the answer allows it.
+  bool Quitter();
 
   // Caption, gadgets and check marks: each change is passed on to the view.
   void SetTitre(const std::string& titre);

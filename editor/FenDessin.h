@@ -72,7 +72,12 @@ public:
   void Coller();
 
   // The file commands (Fichiers.cpp).
+  // Asks first, with unsaved changes, whether to save them.
   void Ouvrir();
+  // The i-th of the recent routines still on disk, as "&Ouvrir" opens it.
+  void OuvrirRecent(std::size_t i);
+  // An empty routine as at start, after asking about unsaved changes.
+  void Nouveau();
   // Opens chemin as "&Ouvrir" does once the dialog has answered. With a nom, the document
   // reads chemin but takes nom as its name (a recovery copy takes its original's).
   void Ouvrir(const std::string& chemin, const std::string& nom = {});

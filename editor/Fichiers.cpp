@@ -3,6 +3,10 @@
 // failed save keeps the previous file.
 #include <memory>
 #include <string>
+#include <vector>
+
+#include "demo/Demonstration.h"
+#include "demo/player/FenApp.h"
 
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
@@ -14,6 +18,7 @@
 #include "model/Outils.h"
 #include "model/elements/Pt.h"
 #include "platform/Dialogues.h"
+#include "session/FichiersRecents.h"
 #include "session/Modification.h"
 
 namespace {
@@ -43,9 +48,49 @@ void CopieChemin(char* cible, std::size_t taille, const std::string& chemin) {
 }  // namespace
 
 void TFenDessin::Ouvrir() {
+  if (pFenCadre && !pFenCadre->ConfirmePerte()) return;
   NbFenDesOuvertes = 0;
   const std::optional<std::string> chemin = Dialogues().FichierAOuvrir(DialogueOuvrir);
   if (chemin) Ouvrir(*chemin);
+}
+
+void TFenDessin::OuvrirRecent(std::size_t i) {
+  const std::vector<std::string> presents = FichiersRecents().Presents();
+  if (i >= presents.size() || (pFenCadre && !pFenCadre->ConfirmePerte())) return;
+  // The dialog is not shown, but the file takes its place as the last one chosen there.
+  DialogueOuvrir.Dernier = presents[i];
+  NbFenDesOuvertes = 0;
+  Ouvrir(presents[i]);
+}
+
+void TFenDessin::Nouveau() {
+  TFenCadre2* const cadre = pFenCadre;
+  if (!cadre || !cadre->ConfirmePerte()) return;
+  // An empty routine as at start: one kite, no music, team 1, two sheets, no name.
+  LitRoutineTexte(*cadre, {});
+  FichierRoutine[0] = '\0';
+  cadre->SetTitre("Dessin Trajectoires");
+  pEltSynchro = nullptr;
+  cadre->SetTexteGadgetSynchro(" / ");
+  if (pFenListe) pFenListe->RetraceBD();
+  cadre->SetClientFenDes();
+  while (cadre->nbFeuilles > 2) {
+    const int avant = cadre->nbFeuilles;
+    cadre->SupprFeuille(avant - 1);
+    if (cadre->nbFeuilles == avant) break;
+  }
+  if (cadre->nbFeuilles < 2) cadre->AddFeuille();
+  cadre->pFenDesActive->OpenBD();
+  // The player goes back to its first scene: one kite and no track.
+  FermeDemo();
+  if (pFenAppDemo)
+    pFenAppDemo->InitDemo(1, 1000.0f);
+  else
+    InitDemo(1, 1000.0f);
+  cadre->Focus();
+  if (pFenDes0) pFenDes0->MetAJourOnglets();
+  Dialogues().MessageStatut("Nouvelle routine");
+  MarqueIntact();
 }
 
 void TFenDessin::Ouvrir(const std::string& chemin, const std::string& nomDonne) {
@@ -58,7 +103,8 @@ void TFenDessin::Ouvrir(const std::string& chemin, const std::string& nomDonne) 
   if (cadre) cadre->SetTitre("Dessin Trajectoires : " + nom);
   pEltSynchro = nullptr;
   // The document is emptied first: a file that can't be read leaves an empty routine.
-  const bool lu = cadre && LitRoutine(*cadre, chemin);
+  bool routine = true;
+  const bool lu = cadre && LitRoutine(*cadre, chemin, &routine);
   if (lu) {
     if (pFenListe) pFenListe->RetraceBD();
     cadre->SetClientFenDes();
@@ -74,12 +120,25 @@ void TFenDessin::Ouvrir(const std::string& chemin, const std::string& nomDonne) 
   SetCurseur(TCurseur::Fleche);
   if (cadre) cadre->Focus();
   if (pFenDes0) pFenDes0->MetAJourOnglets();
+  if (lu && !routine) {
+    // Opened as the empty routine it reads as, but under no name: the next save asks for
+    // one instead of writing over a file that was never a routine.
+    Dialogues().MessageBox("Aucun élément reconnu dans « " + NomFichier(chemin) +
+                               " » : ce fichier n'est peut-être pas une routine.",
+                           " Ouvrir routine", TBoutons::OK, TIcone::Avertissement);
+    FichierRoutine[0] = '\0';
+    if (cadre) cadre->SetTitre("Dessin Trajectoires");
+  } else if (lu && nomDonne.empty()) {
+    FichiersRecents().Ajoute(chemin);
+  }
   MarqueIntact();
 }
 
 bool TFenDessin::EcritRoutine(const std::string& chemin) {
   if (EcritFichier(chemin, TexteRoutine())) {
     MarqueIntact();
+    FichiersRecents().Ajoute(chemin);
+    Dialogues().MessageStatut("Routine enregistrée : " + NomFichier(chemin));
     return true;
   }
   Dialogues().MessageBox(PROBLEME_ENREGISTREMENT, " Enregistrer routine");

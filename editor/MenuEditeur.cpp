@@ -2,17 +2,17 @@
 
 namespace {
 constexpr TEntreeMenu Imprimer[] = {
-    {256, "&1 x 1"},
+    {256, "&1 x 1", {}, "Ctrl+P"},
     {257, "&2 x 1"},
     {258, "2 &x 2"},
     {259, "&4 x 2"},
 };
 
 constexpr TEntreeMenu Fichier[] = {
-    {251, "&Ouvrir"},
+    {251, "&Ouvrir", {}, "Ctrl+O"},
     {252, "&Musique"},
-    {249, "&Enregistrer sous..."},
-    {250, "E&nregistrer"},
+    {249, "&Enregistrer sous...", {}, "Ctrl+Shift+S"},
+    {250, "E&nregistrer", {}, "Ctrl+S"},
     {0, nullptr},
     {260, "Enregistrer &feuilles sous..."},
     {261, "In&sérer fichier après feuille active ..."},
@@ -22,6 +22,11 @@ constexpr TEntreeMenu Fichier[] = {
     {0, nullptr},
     {0, "I&mprimer...", Imprimer},
     {255, "&Mise en page..."},
+    {0, nullptr},
+    {CM_NOUVEAU, "&Nouveau", {}, "Ctrl+N"},
+    {CM_FICHIERS_RECENTS, "Fichiers &récents"},
+    {0, nullptr},
+    {CM_QUITTER, "&Quitter", {}, "Ctrl+Q"},
 };
 
 constexpr TEntreeMenu Construction[] = {
@@ -47,13 +52,15 @@ constexpr TEntreeMenu Synchronisation[] = {
 };
 
 constexpr TEntreeMenu Edition[] = {
-    {333, "&Annuler dernière action"},
+    {333, "&Annuler dernière action", {}, "Ctrl+Z"},
     {0, nullptr},
-    {336, "&Copier"},
-    {337, "Co&ller..."},
+    {336, "&Copier", {}, "Ctrl+C"},
+    {337, "Co&ller...", {}, "Ctrl+V"},
     {0, nullptr},
     {338, "&Insérer une feuille"},
     {339, "&Supprimer une feuille"},
+    {0, nullptr},
+    {CM_SUPPRIMER, "Supprimer &la sélection", {}, "Del"},
 };
 
 constexpr TEntreeMenu Options[] = {
@@ -68,7 +75,7 @@ constexpr TMenuDeroulant Menu[] = {
     {"&Synchronisation", Synchronisation},
     {"&Edition", Edition},
     {"&Ajout CV", {}, 302},
-    {"&Démo", {}, 303},
+    {"&Démo", {}, 303, "F5"},
     {"&Options", Options},
 };
 

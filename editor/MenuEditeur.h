@@ -16,3 +16,13 @@ inline constexpr int CARACTERES_GADGET_POSITION = 10;
 // The commands whose menu item carries a check mark.
 inline constexpr unsigned CM_MAJ_PERMANENTE = 332;
 inline constexpr unsigned CM_MAJ_PARTIELLE = 334;
+
+// Commands a modern editor is expected to have, after the menu's first entries.
+inline constexpr unsigned CM_NOUVEAU = 262;
+inline constexpr unsigned CM_QUITTER = 263;
+inline constexpr unsigned CM_EFFACER_RECENTS = 264;
+inline constexpr unsigned CM_SUPPRIMER = 265;
+// "Fichiers &récents": the view fills this sub-menu from the list, CM_PREMIER_RECENT + i
+// for the i-th file still on disk, then CM_EFFACER_RECENTS.
+inline constexpr unsigned CM_FICHIERS_RECENTS = 269;
+inline constexpr unsigned CM_PREMIER_RECENT = 270;

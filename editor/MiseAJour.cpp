@@ -66,13 +66,19 @@ void TFenDessin::MiseAJourVTotale() {
 
 void TFenDessin::Demo() {
   float tMin = 0;
+  int premier = 0;  // the kite that ends first
+  bool inegales = false;
   for (int i = 0; i < nbCV; ++i) {
     if (TabLElt[i].nbNoeud() <= 1) {
       MessageErreur("Démo impossible : liste  vide");
       return;
     }
     const float t = static_cast<TElt*>(TabLElt[i].Dernier())->Gett2Param();
-    if (i == 0 || t < tMin) tMin = t;
+    if (i > 0 && t != tMin) inegales = true;
+    if (i == 0 || t < tMin) {
+      tMin = t;
+      premier = i;
+    }
   }
   // The scene ends with the shortest kite. Made through the player when there is one, so that
   // its bars show the new scene; the command-line companion has none.
@@ -85,6 +91,11 @@ void TFenDessin::Demo() {
   for (int i = 0; i < nbCV; ++i)
     for (TNoeud* n = TabLElt[i].Init2(); n; n = n->GetSuivant()) static_cast<TElt*>(n)->DirectX();
   MiseAJourVTotale();
+  // The flight of the kites that end later is cut short: say where, and by whom.
+  if (inegales)
+    Dialogues().MessageStatut("Démo : les CV ne finissent pas ensemble, la démonstration s'arrête à T = " +
+                              std::to_string(static_cast<long long>(tMin)) + ", à la fin du CV n°" +
+                              std::to_string(premier + 1));
 }
 
 void TFenDessin::Synchronise(TElt* e, int NumCV, TListeCV* Table, int Index, TFenDessin* pFen) {

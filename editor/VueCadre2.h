@@ -21,4 +21,6 @@ public:
   virtual void Focus() {}
   // The property bars moved, opened or closed.
   virtual void Barres() {}
+  // The program ends: the user has agreed, and nothing is to be asked again.
+  virtual void Ferme() {}
 };

@@ -77,6 +77,10 @@ struct TLigne {
   int CvPere = -1, IndexPere = -1;
 };
 
+// Lines of the file being read whose first word is one of the format's, readable or not: a
+// file with none is not a routine, whatever it holds.
+int LignesReconnues = 0;
+
 // The header lines: the team and the music, in any reader mode and anywhere in the file.
 bool LitEntete(std::string_view mot, TLecteurChamps& champs) {
   if (mot == "TEAM") {
@@ -85,8 +89,9 @@ bool LitEntete(std::string_view mot, TLecteurChamps& champs) {
     return true;
   }
   if (mot == "MUSIQUE") {
+    // The rest of the line: a path may hold blanks, and the writer ends the line with one.
     std::string chemin;
-    if (champs.Mot(chemin)) {
+    if (champs.FinDeLigne(chemin)) {
       const std::size_t n = std::min(chemin.size(), static_cast<std::size_t>(TAILLE_FICHIER_MUSIQUE - 1));
       chemin.copy(_FichierMusique, n);
       _FichierMusique[n] = '\0';
@@ -183,9 +188,13 @@ bool LitElement(std::string_view texte, bool avecEntete, TLigne& l) {
   TLecteurChamps champs(texte);
   std::string_view mot;
   if (!champs.Mot(mot)) return false;
-  if (avecEntete && LitEntete(mot, champs)) return false;
+  if (avecEntete && LitEntete(mot, champs)) {
+    ++LignesReconnues;
+    return false;
+  }
   const auto def = std::find_if(Definitions.begin(), Definitions.end(), [&](const TDefinition& d) { return d.Nom == mot; });
   if (def == Definitions.end()) return false;  // a comment or a record of another program
+  ++LignesReconnues;
   l.Def = &*def;
   if (!LitChamps(champs, l) || l.Cv < 0 || l.Cv >= NB_CV_MAX || l.Feuille < 1 || l.Feuille >= NB_FEUILLES_MAX) {
     SignaleIllisible(l);
@@ -320,7 +329,7 @@ void LitLignesRoutine(TFenCadre2& cadre, std::string_view texte) {
 }
 }  // namespace
 
-bool LitRoutine(TFenCadre2& cadre, const std::string& chemin) {
+bool LitRoutine(TFenCadre2& cadre, const std::string& chemin, bool* routine) {
   VideDocument(cadre);
   const std::optional<std::string> contenu = LitFichier(chemin);
   if (!contenu) {
@@ -328,8 +337,11 @@ bool LitRoutine(TFenCadre2& cadre, const std::string& chemin) {
     return false;
   }
   ChargementFichierEnCours = true;
+  LignesReconnues = 0;
   LitLignesRoutine(cadre, *contenu);
   ChargementFichierEnCours = false;
+  // An empty file holds nothing foreign: it is an empty routine.
+  if (routine) *routine = LignesReconnues > 0 || contenu->find_first_not_of(" \t\r\n") == std::string::npos;
   return true;
 }
 

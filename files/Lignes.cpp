@@ -121,6 +121,16 @@ bool TLecteurChamps::Mot(std::string& mot) {
   return true;
 }
 
+bool TLecteurChamps::FinDeLigne(std::string& texte) {
+  SauteBlancs();
+  std::size_t n = Reste.size();
+  while (n > 0 && EstBlanc(Reste[n - 1])) --n;
+  if (n == 0) return false;
+  texte.assign(Reste.substr(0, n));
+  Reste.remove_prefix(Reste.size());
+  return true;
+}
+
 bool TLecteurChamps::Entier(int& n) {
   SauteBlancs();
   const char* debut = Reste.data();

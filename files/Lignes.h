@@ -32,6 +32,8 @@ public:
   bool Mot(std::string& mot);
   // The same, without a copy: the word stays in the line read.
   bool Mot(std::string_view& mot);
+  // Everything left on the line, less the blanks around it: a name that may hold blanks.
+  bool FinDeLigne(std::string& texte);
   bool Entier(int& n);
   bool Reel(float& f);
 

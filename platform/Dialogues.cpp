@@ -14,7 +14,10 @@ void SetDialogues(TDialogues* d) { dialoguesCourants = d ? d : &dialoguesConsole
 TReponse TDialoguesConsole::MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons,
                                        TIcone) {
   std::fprintf(stderr, "%s: %s\n", titre.c_str(), texte.c_str());
-  return boutons == TBoutons::OuiNon || boutons == TBoutons::OuiNonAnnuler ? TReponse::Oui : TReponse::OK;
+  return boutons == TBoutons::OuiNon || boutons == TBoutons::OuiNonAnnuler ||
+                 boutons == TBoutons::EnregistrerAbandonnerAnnuler
+             ? TReponse::Oui
+             : TReponse::OK;
 }
 
 void TDialoguesConsole::MessageBeep(int) {}

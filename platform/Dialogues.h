@@ -10,7 +10,8 @@ class TBD_Coller;
 class TBD_Feuille;
 class TBD_InsererFic;
 
-enum class TBoutons { OK, OKAnnuler, OuiNon, OuiNonAnnuler };
+// EnregistrerAbandonnerAnnuler: "Enregistrer" answers Oui, "Ne pas enregistrer" Non.
+enum class TBoutons { OK, OKAnnuler, OuiNon, OuiNonAnnuler, EnregistrerAbandonnerAnnuler };
 enum class TIcone { Aucune, Information, Question, Avertissement, Erreur };
 enum class TReponse { OK, Annuler, Oui, Non };
 enum class TCurseur { Fleche, Croix, Carre, CarreCroix, Attente };

@@ -8,6 +8,7 @@ struct TEntreeMenu {
   unsigned Id;
   const char* Texte;
   std::span<const TEntreeMenu> SousMenu = {};
+  const char* Raccourci = nullptr;  // the keys, as Qt writes them: "Ctrl+Shift+S"
 };
 
 // A pop-up of the menu bar; with a command Id, an item of the bar that is itself a command.
@@ -15,6 +16,7 @@ struct TMenuDeroulant {
   const char* Titre;
   std::span<const TEntreeMenu> Entrees;
   unsigned Id = 0;
+  const char* Raccourci = nullptr;
 };
 
 // One gadget of a control bar, from left to right.

@@ -33,6 +33,7 @@ void TPrinter::Setup() { Dialogues().MiseEnPage(Donnees); }
 
 bool TPrinter::Print(TPrintout& printout, bool prompt) {
   if (prompt && !Dialogues().Impression(Donnees)) return false;
+  PagesImprimees = 0;
   std::unique_ptr<TTravailImpression> travail = PeripheriqueImpression().Commence(Donnees, printout.GetTitle());
   bool ok = travail != nullptr;
   if (ok) {
@@ -43,6 +44,7 @@ bool TPrinter::Print(TPrintout& printout, bool prompt) {
       printout.SetPrintParams(&travail->GetDC(), page);
       TRect rect(0, 0, page.cx, page.cy);
       printout.PrintPage(n, rect, 0);
+      PagesImprimees = n;
     }
     printout.SetPrintParams(nullptr, TSize{});
     ok = travail->Termine() && ok;

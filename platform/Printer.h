@@ -89,7 +89,12 @@ public:
   // Prints every page that printout has, after the print dialog when prompt is set.
   // False when the dialog was cancelled or the job failed; a failure is told in a box.
   bool Print(TPrintout& printout, bool prompt);
+  // The pages that the last job printed.
+  int GetPagesImprimees() const { return PagesImprimees; }
 
 protected:
   TDonneesImprimante Donnees;
+
+private:
+  int PagesImprimees = 0;
 };

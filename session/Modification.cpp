@@ -1,5 +1,6 @@
 #include "session/Modification.h"
 
+#include <cstring>
 #include <map>
 #include <string>
 
@@ -70,3 +71,13 @@ int AjouteObservateurModification(std::function<void(bool)> observateur) {
 }
 
 void RetireObservateurModification(int numero) { Etat().Observateurs.erase(numero); }
+
+std::string NomFichier(const std::string& chemin) {
+  const std::size_t barre = chemin.rfind('/');
+  return barre == std::string::npos ? chemin : chemin.substr(barre + 1);
+}
+
+std::string NomDocument() {
+  const std::string chemin(FichierRoutine, strnlen(FichierRoutine, sizeof FichierRoutine));
+  return chemin.empty() ? "Sans titre" : NomFichier(chemin);
+}

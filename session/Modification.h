@@ -8,6 +8,7 @@
 // wherever it was made. What the text does not show (a sheet inserted or deleted, a kite
 // added) is marked where it is done.
 #include <functional>
+#include <string>
 
 // After an event of the user: the document is marked modified if its text has changed.
 void VerifieModification();
@@ -20,3 +21,8 @@ bool DocumentModifie();
 // Called with the new state each time it changes. The returned number removes it.
 int AjouteObservateurModification(std::function<void(bool modifie)> observateur);
 void RetireObservateurModification(int numero);
+
+// The name of a file without its folder, as messages name it.
+std::string NomFichier(const std::string& chemin);
+// The routine's name for the user: its file's name, "Sans titre" before it has one.
+std::string NomDocument();

@@ -6,13 +6,17 @@
 #include "gui/qt/Gadgets.h"
 #include "gui/editeur/QBande.h"
 #include "gui/editeur/QFeuille.h"
+#include "session/FichiersRecents.h"
 #include "session/Modification.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLayout>
+#include <QMenu>
 #include <QMenuBar>
 #include <QResizeEvent>
 #include <QSignalBlocker>
@@ -70,9 +74,14 @@ QFenCadre2::~QFenCadre2() {
   bande_ = nullptr;
 }
 
-QAction* QFenCadre2::NouvelleAction(unsigned id, const char* texte) {
+QAction* QFenCadre2::NouvelleAction(unsigned id, const char* texte, const char* raccourci) {
   auto* a = new QAction(QString::fromUtf8(texte), this);
   a->setObjectName(QStringLiteral("commande%1").arg(id));
+  if (raccourci) {
+    a->setShortcut(QKeySequence(QString::fromUtf8(raccourci)));
+    // The sheet's window only: the player has keys of its own.
+    a->setShortcutContext(Qt::WindowShortcut);
+  }
   connect(a, &QAction::triggered, this, [this, id] {
     if (cadre_.pFenDesActive) cadre_.pFenDesActive->Trt_Menu(id);
   });
@@ -90,20 +99,28 @@ void QFenCadre2::CreeMenu() {
     if (deroulant.Id) {
       // A command of the menu bar itself: its own action, so that the bar shows its text
       // and not the button's picture.
-      QAction* a = NouvelleAction(deroulant.Id, deroulant.Titre);
+      QAction* a = NouvelleAction(deroulant.Id, deroulant.Titre, deroulant.Raccourci);
       actions_.erase(deroulant.Id);
       menuBar()->addAction(a);
+      // A shortcut works only on an action that belongs to a widget of the window.
+      addAction(a);
       continue;
     }
     QMenu* menu = menuBar()->addMenu(QString::fromUtf8(deroulant.Titre));
     for (const TEntreeMenu& entree : deroulant.Entrees) {
       if (!entree.SousMenu.empty()) {
         QMenu* sous = menu->addMenu(QString::fromUtf8(entree.Texte));
-        for (const TEntreeMenu& e : entree.SousMenu) sous->addAction(NouvelleAction(e.Id, e.Texte));
+        for (const TEntreeMenu& e : entree.SousMenu) sous->addAction(NouvelleAction(e.Id, e.Texte, e.Raccourci));
+      } else if (entree.Id == CM_FICHIERS_RECENTS) {
+        recents_ = menu->addMenu(QString::fromUtf8(entree.Texte));
+        recents_->setObjectName(QStringLiteral("fichiersRecents"));
+        recents_->setToolTipsVisible(true);
+        connect(recents_, &QMenu::aboutToShow, this, &QFenCadre2::Recents);
+        Recents();
       } else if (entree.Id == 0) {
         menu->addSeparator();
       } else {
-        QAction* a = NouvelleAction(entree.Id, entree.Texte);
+        QAction* a = NouvelleAction(entree.Id, entree.Texte, entree.Raccourci);
         a->setCheckable(entree.Id == CM_MAJ_PERMANENTE || entree.Id == CM_MAJ_PARTIELLE);
         menu->addAction(a);
       }
@@ -133,6 +150,30 @@ void QFenCadre2::CreeBarre() {
       // Qt's buttons are wider than bitmaps of 16 pixels in a thin frame: narrower gaps give
       // the difference back, so that every tool shows at the frame's first width.
       0.5);
+}
+
+void QFenCadre2::Recents() {
+  // Built afresh each time it opens: a file gone since is no longer offered.
+  recents_->clear();
+  const std::vector<std::string> presents = FichiersRecents().Presents();
+  for (std::size_t i = 0; i < presents.size(); ++i) {
+    const QString chemin = QString::fromStdString(presents[i]);
+    QAction* a = recents_->addAction(QStringLiteral("&%1 %2").arg(i + 1 < 10 ? QString::number(i + 1) : QStringLiteral("1&0"),
+                                                                    QFileInfo(chemin).fileName()));
+    a->setToolTip(chemin);
+    a->setObjectName(QStringLiteral("recent%1").arg(i));
+    const unsigned id = CM_PREMIER_RECENT + static_cast<unsigned>(i);
+    connect(a, &QAction::triggered, this, [this, id] {
+      if (cadre_.pFenDesActive) cadre_.pFenDesActive->Trt_Menu(id);
+    });
+  }
+  if (!presents.empty()) recents_->addSeparator();
+  QAction* effacer = recents_->addAction(QStringLiteral("Effacer la liste"));
+  effacer->setObjectName(QStringLiteral("effacerRecents"));
+  effacer->setEnabled(!FichiersRecents().Tous().empty());
+  connect(effacer, &QAction::triggered, this, [this] {
+    if (cadre_.pFenDesActive) cadre_.pFenDesActive->Trt_Menu(CM_EFFACER_RECENTS);
+  });
 }
 
 bool QFenCadre2::eventFilter(QObject* objet, QEvent* evenement) {
@@ -196,6 +237,10 @@ void QFenCadre2::closeEvent(QCloseEvent* evenement) {
     return;
   }
   evenement->accept();
+  Ferme();
+}
+
+void QFenCadre2::Ferme() {
   // exit(), not quit(): quit() first asks every window to close, and the player refuses.
   QCoreApplication::exit(0);
 }

@@ -14,6 +14,7 @@ class QAction;
 class QBande;
 class QFeuille;
 class QLabel;
+class QMenu;
 class QTabBar;
 
 class QFenCadre2 : public QMainWindow, public TVueCadre2 {
@@ -39,6 +40,7 @@ public:
   void Textes() override;
   void Focus() override;
   void Barres() override;
+  void Ferme() override;
 
 protected:
   void closeEvent(QCloseEvent* evenement) override;
@@ -47,7 +49,9 @@ protected:
 private:
   void CreeMenu();
   void CreeBarre();
-  QAction* NouvelleAction(unsigned id, const char* texte);
+  QAction* NouvelleAction(unsigned id, const char* texte, const char* raccourci = nullptr);
+  // Fills "Fichiers &récents" with the routines still on disk.
+  void Recents();
   // The client area changed size: the frame computes the places, the widgets take them.
   void Dispose();
 
@@ -58,6 +62,7 @@ private:
   QBande* bande_ = nullptr;
   QLabel* position_ = nullptr;
   QLabel* synchro_ = nullptr;
+  QMenu* recents_ = nullptr;
   std::map<unsigned, QAction*> actions_;
   int observateur_ = 0;  // the caption follows the document's modified state
 };

@@ -7,10 +7,13 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
+#include <QPushButton>
+#include <QSettings>
 #include <QStringList>
 
 namespace {
@@ -34,6 +37,7 @@ QMessageBox::StandardButtons BoutonsQt(TBoutons boutons) {
     case TBoutons::OKAnnuler: return QMessageBox::Ok | QMessageBox::Cancel;
     case TBoutons::OuiNon: return QMessageBox::Yes | QMessageBox::No;
     case TBoutons::OuiNonAnnuler: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case TBoutons::EnregistrerAbandonnerAnnuler: return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
   }
   return QMessageBox::Ok;
 }
@@ -45,9 +49,14 @@ QMessageBox::StandardButton PremierBouton(TBoutons boutons) {
     case TBoutons::OKAnnuler: return QMessageBox::Ok;
     case TBoutons::OuiNon:
     case TBoutons::OuiNonAnnuler: return QMessageBox::Yes;
+    case TBoutons::EnregistrerAbandonnerAnnuler: return QMessageBox::Save;
   }
   return QMessageBox::Ok;
 }
+
+// The folder a file dialog of this kind (routines, figures, music: by extension) used last,
+// in this run or an earlier one.
+QString CleDossier(const TDialogueFichier& d) { return QStringLiteral("dossiers/") + Q(d.Extension); }
 
 std::optional<std::string> Chemin(const QString& chemin) {
   if (chemin.isEmpty()) return std::nullopt;
@@ -67,11 +76,19 @@ TReponse TQtDialogues::MessageBox(const std::string& texte, const std::string& t
                                   TIcone icone) {
   QMessageBox boite(IconeQt(icone), Q(titre), Q(texte), BoutonsQt(boutons), parent_);
   boite.setDefaultButton(PremierBouton(boutons));
+  if (boutons == TBoutons::EnregistrerAbandonnerAnnuler) {
+    // Said in full, whatever the translation has for these buttons.
+    boite.button(QMessageBox::Save)->setText(QStringLiteral("Enregistrer"));
+    boite.button(QMessageBox::Discard)->setText(QStringLiteral("Ne pas enregistrer"));
+    boite.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuler"));
+  }
   switch (boite.exec()) {
     case QMessageBox::Ok: return TReponse::OK;
     case QMessageBox::Cancel: return TReponse::Annuler;
-    case QMessageBox::Yes: return TReponse::Oui;
-    case QMessageBox::No: return TReponse::Non;
+    case QMessageBox::Yes:
+    case QMessageBox::Save: return TReponse::Oui;
+    case QMessageBox::No:
+    case QMessageBox::Discard: return TReponse::Non;
     default: break;
   }
   // Dismissed without a button (Qt normally maps that to Cancel or No itself).
@@ -79,7 +96,8 @@ TReponse TQtDialogues::MessageBox(const std::string& texte, const std::string& t
     case TBoutons::OK: return TReponse::OK;
     case TBoutons::OuiNon: return TReponse::Non;
     case TBoutons::OKAnnuler:
-    case TBoutons::OuiNonAnnuler: break;
+    case TBoutons::OuiNonAnnuler:
+    case TBoutons::EnregistrerAbandonnerAnnuler: break;
   }
   return TReponse::Annuler;
 }
@@ -98,10 +116,19 @@ std::optional<std::string> TQtDialogues::Fichier(TDialogueFichier& d, bool enreg
   // The question about an existing file is the editor's own, in its words.
   if (enregistrer) dialogue.setOption(QFileDialog::DontConfirmOverwrite);
   dialogue.setDefaultSuffix(Q(d.Extension));
-  if (!d.Dernier.empty()) dialogue.selectFile(Q(d.Dernier));
+  QSettings reglages;
+  if (!d.Dernier.empty()) {
+    dialogue.selectFile(Q(d.Dernier));
+  } else {
+    const QString dossier = reglages.value(CleDossier(d)).toString();
+    if (!dossier.isEmpty() && QFileInfo(dossier).isDir()) dialogue.setDirectory(dossier);
+  }
   if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return std::nullopt;
   const std::optional<std::string> chemin = Chemin(dialogue.selectedFiles().first());
-  if (chemin) d.Dernier = *chemin;
+  if (chemin) {
+    d.Dernier = *chemin;
+    reglages.setValue(CleDossier(d), QFileInfo(dialogue.selectedFiles().first()).absolutePath());
+  }
   return chemin;
 }
 
