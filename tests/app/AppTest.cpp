@@ -66,7 +66,9 @@ TEST_F(AppTest, TheEditorThenThePlayerAreShownWithTheirCaptionsAndFrames) {
 
   QFenCadre2* editeur = app->Editeur();
   QFenCadre* lecteur = app->Lecteur();
-  EXPECT_EQ(editeur->windowTitle(), QStringLiteral("Dessin Trajectoires"));
+  // "[*]" is where Qt shows that the document holds unsaved changes; it has none yet.
+  EXPECT_EQ(editeur->windowTitle(), QStringLiteral("Dessin Trajectoires[*]"));
+  EXPECT_FALSE(editeur->isWindowModified());
   EXPECT_EQ(lecteur->windowTitle(), QStringLiteral("CV"));
 
   // The rectangles are the frames', decorations included. Under xvfb-run there is no window

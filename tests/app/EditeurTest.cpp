@@ -24,6 +24,7 @@
 #include <QFileDialog>
 #include <QImage>
 #include <QLineEdit>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTest>
 
@@ -147,12 +148,17 @@ TEST_F(EditeurTest, AKiteDrawnWithTheMouseIsSavedAsTheReplayOfTheSameGesturesSav
   Menu(304);
   EXPECT_EQ(app->Editeur()->Onglets_()->tabText(0).left(4), QStringLiteral("1 - "));
 
+  // The caption marks the unsaved changes once the last gesture has run.
+  EXPECT_TRUE(AttendQue([&] { return app->Editeur()->isWindowModified(); }));
+
   // A name typed without its extension: the routine extension is added.
   const fs::path fichier = dossier / "dessin.rou";
   RepondFichier("dessin");
   app->Editeur()->Action(249)->trigger();
   ASSERT_TRUE(fs::exists(fichier));
-  EXPECT_EQ(app->Editeur()->windowTitle(), QString::fromStdString("Dessin Trajectoires : " + fichier.string()));
+  EXPECT_EQ(app->Editeur()->windowTitle(), QString::fromStdString("Dessin Trajectoires : " + fichier.string() + "[*]"));
+  EXPECT_FALSE(app->Editeur()->isWindowModified());
+  EXPECT_EQ(app->Editeur()->statusBar()->currentMessage(), QStringLiteral("Routine enregistrée : dessin.rou"));
 
   std::ofstream(dossier / "gestes.rep") << script.str();
   const std::string commande = Cite(TRAJ_CLI) + " replay " + Cite((dossier / "gestes.rep").string()) + " " +

@@ -1,0 +1,108 @@
+// The safety net on the real window: the caption follows the unsaved changes made with the
+// mouse, closing with changes asks in French with three buttons and Annuler keeps everything,
+// and Qt's own dialogs speak French.
+#include <gtest/gtest.h>
+
+#include "Attente.h"
+#include "Boites.h"
+#include "app/App.h"
+#include "editor/FenDessin.h"
+#include "gui/editeur/QFeuille.h"
+#include "model/Document.h"
+#include "session/Modification.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+class SessionAppTest : public ::testing::Test {
+protected:
+  void SetUp() override {
+    ReinitialiseDocument();
+    app = std::make_unique<TApp>();
+    app->Demarre();
+    ASSERT_TRUE(AttendQue([&] { return app->Editeur()->Feuille()->isVisible() && app->Editeur()->Feuille()->width() > 0; }));
+    feuille = app->Editeur()->Feuille();
+  }
+  void TearDown() override {
+    app.reset();
+    ReinitialiseDocument();
+  }
+  void Clique(float x, float y) {
+    const TPoint p = feuille->Feuille()->LPtoDP(TPointf(x, y));
+    QTest::mousePress(feuille, Qt::LeftButton, Qt::NoModifier, QPoint(p.x, p.y));
+    QTest::mouseRelease(feuille, Qt::LeftButton, Qt::NoModifier, QPoint(p.x, p.y));
+  }
+  void Bouge(float x, float y) {
+    const TPoint p = feuille->Feuille()->LPtoDP(TPointf(x, y));
+    QTest::mouseMove(feuille->window()->windowHandle(), feuille->mapTo(feuille->window(), QPoint(p.x, p.y)));
+    QApplication::processEvents();
+  }
+  // A kite's start point, then a segment, as a user draws them.
+  void Dessine() {
+    app->Editeur()->Action(301)->trigger();
+    Clique(-60, 20);
+    Bouge(-50, 30);
+    Bouge(-30, 50);
+    Clique(-30, 50);
+    QTest::keyClick(feuille, Qt::Key_Escape);
+  }
+  static QString SansEsperluette(QString texte) { return texte.remove(u'&'); }
+
+  std::unique_ptr<TApp> app;
+  QFeuille* feuille = nullptr;
+};
+
+TEST_F(SessionAppTest, ClosingWithChangesAsksInFrenchAndAnnulerKeepsTheWindowAndTheChanges) {
+  QFenCadre2* editeur = app->Editeur();
+  EXPECT_FALSE(editeur->isWindowModified());
+  Dessine();
+  ASSERT_TRUE(AttendQue([&] { return editeur->isWindowModified(); })) << "the caption never showed the change";
+
+  QString texte;
+  std::vector<QString> boutons;
+  Pilote<QMessageBox>([&](QMessageBox* m) {
+    texte = m->text();
+    for (QAbstractButton* b : m->buttons()) boutons.push_back(SansEsperluette(b->text()));
+    QTest::mouseClick(m->button(QMessageBox::Cancel), Qt::LeftButton);
+  });
+  editeur->close();
+  EXPECT_EQ(texte, QStringLiteral("Enregistrer les modifications de « Sans titre » avant de fermer ?"));
+  std::sort(boutons.begin(), boutons.end());
+  EXPECT_EQ(boutons, (std::vector<QString>{QStringLiteral("Annuler"), QStringLiteral("Enregistrer"),
+                                           QStringLiteral("Ne pas enregistrer")}));
+  EXPECT_TRUE(editeur->isVisible());
+  EXPECT_TRUE(DocumentModifie());
+  EXPECT_EQ(TabLElt[0].nbNoeud(), 2);
+}
+
+TEST_F(SessionAppTest, QtsOwnButtonsAndTheFileDialogSpeakFrench) {
+  QDialogButtonBox boite(QDialogButtonBox::Open | QDialogButtonBox::Save | QDialogButtonBox::Cancel);
+  EXPECT_EQ(SansEsperluette(boite.button(QDialogButtonBox::Cancel)->text()), QStringLiteral("Annuler"));
+  EXPECT_EQ(SansEsperluette(boite.button(QDialogButtonBox::Open)->text()), QStringLiteral("Ouvrir"));
+  EXPECT_EQ(SansEsperluette(boite.button(QDialogButtonBox::Save)->text()), QStringLiteral("Enregistrer"));
+
+  // The dialog of "&Ouvrir", as the user sees it.
+  std::vector<QString> textes;
+  Pilote<QFileDialog>([&](QFileDialog* d) {
+    for (QPushButton* b : d->findChildren<QPushButton*>()) textes.push_back(SansEsperluette(b->text()));
+    if (const char* image = std::getenv("TRAJ_CAPTURE_DIALOGUE")) d->grab().save(QString::fromLocal8Bit(image));
+  });
+  app->Editeur()->Action(251)->trigger();
+  EXPECT_NE(std::find(textes.begin(), textes.end(), QStringLiteral("Ouvrir")), textes.end());
+  EXPECT_NE(std::find(textes.begin(), textes.end(), QStringLiteral("Annuler")), textes.end());
+}
+
+}  // namespace
