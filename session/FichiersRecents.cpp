@@ -5,8 +5,19 @@
 
 #include "model/Document.h"
 
-void TFichiersRecents::Ajoute(const std::string& chemin) {
-  if (chemin.empty()) return;
+namespace {
+// A path of the list is whole, so that it opens from wherever the program was started.
+bool Admissible(const std::string& chemin) {
+  return !chemin.empty() && chemin.find('\0') == std::string::npos && std::filesystem::path(chemin).is_absolute();
+}
+}  // namespace
+
+void TFichiersRecents::Ajoute(const std::string& cheminDonne) {
+  if (cheminDonne.empty()) return;
+  std::error_code erreur;
+  const std::filesystem::path absolu = std::filesystem::absolute(cheminDonne, erreur);
+  const std::string chemin = erreur ? cheminDonne : absolu.lexically_normal().string();
+  if (!Admissible(chemin)) return;
   std::erase(Chemins, chemin);
   Chemins.insert(Chemins.begin(), chemin);
   if (Chemins.size() > NB_FICHIERS_RECENTS) Chemins.resize(NB_FICHIERS_RECENTS);
@@ -21,7 +32,7 @@ void TFichiersRecents::Efface() {
 void TFichiersRecents::Remplace(const std::vector<std::string>& chemins) {
   Chemins.clear();
   for (const std::string& c : chemins)
-    if (!c.empty() && std::find(Chemins.begin(), Chemins.end(), c) == Chemins.end() &&
+    if (Admissible(c) && std::find(Chemins.begin(), Chemins.end(), c) == Chemins.end() &&
         Chemins.size() < NB_FICHIERS_RECENTS)
       Chemins.push_back(c);
   Change();

@@ -9,12 +9,12 @@ inline constexpr std::size_t NB_FICHIERS_RECENTS = 10;
 
 class TFichiersRecents {
 public:
-  // chemin goes to the front; an older place of the same path goes, and the oldest beyond
-  // ten is forgotten.
+  // chemin, made whole, goes to the front; an older place of the same path goes, and the
+  // oldest beyond ten is forgotten.
   void Ajoute(const std::string& chemin);
   void Efface();
-  // The list as kept, e.g. read back from the settings: empty and repeated paths are
-  // dropped, and no more than ten are taken.
+  // The list as kept, e.g. read back from the settings: what is not a whole path and
+  // repeated paths are dropped, and no more than ten are taken.
   void Remplace(const std::vector<std::string>& chemins);
   const std::vector<std::string>& Tous() const { return Chemins; }
   // Those still on disk, in order: the menu hides the others.

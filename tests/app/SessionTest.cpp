@@ -9,14 +9,21 @@
 #include "editor/FenDessin.h"
 #include "gui/editeur/QFeuille.h"
 #include "model/Document.h"
+#include "gui/session/Reglages.h"
+#include "session/FichiersRecents.h"
 #include "session/Modification.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSettings>
+#include <QStringList>
 #include <QTest>
 
 #include <algorithm>
@@ -103,6 +110,25 @@ TEST_F(SessionAppTest, QtsOwnButtonsAndTheFileDialogSpeakFrench) {
   app->Editeur()->Action(251)->trigger();
   EXPECT_NE(std::find(textes.begin(), textes.end(), QStringLiteral("Ouvrir")), textes.end());
   EXPECT_NE(std::find(textes.begin(), textes.end(), QStringLiteral("Annuler")), textes.end());
+}
+
+// Settings written by another program, or by hand: whatever the keys hold, the program
+// starts with what it can use and nothing else.
+TEST_F(SessionAppTest, SettingsThatHoldNonsenseGiveDefaults) {
+  const QString fichier = QSettings().fileName();
+  {
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(fichier).path()));
+    QFile f(fichier);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("[General]\nfichiersRecents=@Rect(\\0\\0\\0\\x1)\ndossiers\\rou=\\xff\\xfe\n\xff\x00garbage==\n[[[\n");
+  }
+  SuitFichiersRecents();
+  EXPECT_TRUE(FichiersRecents().Presents().empty());
+  // The list works again from there, and is written back whole.
+  FichiersRecents().Ajoute("/une/routine.rou");
+  EXPECT_EQ(QSettings().value(QStringLiteral("fichiersRecents")).toStringList(),
+            QStringList{QStringLiteral("/une/routine.rou")});
+  FichiersRecents().Efface();
 }
 
 }  // namespace

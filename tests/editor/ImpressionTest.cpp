@@ -240,6 +240,18 @@ TEST_F(ImpressionTest, DialogComesFirstAndFailuresAreToldInABox) {
   EXPECT_EQ(dialoguesImpression.Boites[1].Titre, "Impression de trajectoire CV");
 }
 
+// The menu's print says on the status line how many pages went, and nothing when cancelled.
+TEST_F(ImpressionTest, ThePrintCommandConfirmsThePagesSentOnTheStatusLine) {
+  Ouvre("une_feuille.rou");
+  while (cadre->nbFeuilles < 6) cadre->AddFeuille();
+  cadre->pFenDesActive->Trt_Menu(257);  // two sheets a page: five sheets, three pages
+  cadre->pFenDesActive->Trt_Menu(259);
+  dialoguesImpression.Accepte = false;
+  cadre->pFenDesActive->Trt_Menu(256);
+  EXPECT_EQ(dialoguesImpression.Statuts,
+            (std::vector<std::string>{"Impression envoyée : 3 pages", "Impression envoyée : 1 page"}));
+}
+
 std::vector<std::string> Cas() {
   std::vector<std::string> noms;
   for (const auto& f : fs::directory_iterator(Dossier))

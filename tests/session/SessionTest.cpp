@@ -70,7 +70,7 @@ TEST_F(SessionTest, RecentRoutinesComeNewestFirstWithoutRepeatsAndAtMostTen) {
   EXPECT_EQ(changements, 13);
 
   // As read back from settings written by hand: blanks and repeats go, ten at most stay.
-  std::vector<std::string> lus = {"", "/a.rou", "/a.rou", "/b.rou"};
+  std::vector<std::string> lus = {"", "/a.rou", "/a.rou", "relatif.rou", std::string("/nul\0.rou", 9), "/b.rou"};
   for (int i = 0; i < 20; ++i) lus.push_back("/c" + std::to_string(i) + ".rou");
   recents.Remplace(lus);
   ASSERT_EQ(recents.Tous().size(), NB_FICHIERS_RECENTS);
@@ -78,6 +78,9 @@ TEST_F(SessionTest, RecentRoutinesComeNewestFirstWithoutRepeatsAndAtMostTen) {
   EXPECT_EQ(recents.Tous()[1], "/b.rou");
   recents.Efface();
   EXPECT_TRUE(recents.Tous().empty());
+  // A routine named from the folder the program runs in is listed by its whole path.
+  recents.Ajoute("ici/../la.rou");
+  EXPECT_EQ(recents.Tous(), std::vector<std::string>{(fs::current_path() / "la.rou").string()});
 }
 
 TEST_F(SessionTest, OnlyRecentRoutinesStillOnDiskAreOffered) {
