@@ -6,6 +6,7 @@
 #include "gui/editeur/QBoiteInsererFic.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
@@ -120,8 +121,9 @@ std::optional<std::string> TQtDialogues::Fichier(TDialogueFichier& d, bool enreg
   if (!d.Dernier.empty()) {
     dialogue.selectFile(Q(d.Dernier));
   } else {
+    // Said every time: left alone, Qt opens the folder of whichever dialog came last.
     const QString dossier = reglages.value(CleDossier(d)).toString();
-    if (!dossier.isEmpty() && QFileInfo(dossier).isDir()) dialogue.setDirectory(dossier);
+    dialogue.setDirectory(!dossier.isEmpty() && QFileInfo(dossier).isDir() ? dossier : QDir::currentPath());
   }
   if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return std::nullopt;
   const std::optional<std::string> chemin = Chemin(dialogue.selectedFiles().first());

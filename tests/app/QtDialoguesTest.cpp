@@ -12,13 +12,18 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSettings>
 #include <QStyleOptionButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -54,6 +59,46 @@ TEST(QtDialogues, EachButtonOfEachBoxGivesItsAnswer) {
   EXPECT_EQ(Repond(dialogues, TBoutons::OuiNonAnnuler, QMessageBox::Yes), TReponse::Oui);
   EXPECT_EQ(Repond(dialogues, TBoutons::OuiNonAnnuler, QMessageBox::No), TReponse::Non);
   EXPECT_EQ(Repond(dialogues, TBoutons::OuiNonAnnuler, QMessageBox::Cancel), TReponse::Annuler);
+  EXPECT_EQ(Repond(dialogues, TBoutons::EnregistrerAbandonnerAnnuler, QMessageBox::Save), TReponse::Oui);
+  EXPECT_EQ(Repond(dialogues, TBoutons::EnregistrerAbandonnerAnnuler, QMessageBox::Discard), TReponse::Non);
+  EXPECT_EQ(Repond(dialogues, TBoutons::EnregistrerAbandonnerAnnuler, QMessageBox::Cancel), TReponse::Annuler);
+}
+
+// A file dialog starts, in a new run, in the folder last used for files of its kind; the
+// dialog of another kind, never used, starts in the current folder.
+TEST(QtDialogues, AFileDialogOpensInTheFolderLastUsedForItsKindAcrossRuns) {
+  QTemporaryDir dossier;
+  ASSERT_TRUE(dossier.isValid());
+  ASSERT_TRUE(QDir(dossier.path()).mkpath(QStringLiteral("routines")));
+  QFile(dossier.filePath(QStringLiteral("routines/r.rou"))).open(QIODevice::WriteOnly);
+  const QString routines = QDir(dossier.filePath(QStringLiteral("routines"))).canonicalPath();
+  QSettings().remove(QStringLiteral("dossiers"));
+
+  TQtDialogues dialogues;
+  TDialogueFichier routine{"Ouvrir Fichier Routine", "fichiers routine ROU | *.rou", "rou", {}};
+  QuandOuvert<QFileDialog>([&](QFileDialog* d) {
+    d->setDirectory(routines);
+    d->selectFile(QStringLiteral("r.rou"));
+    static_cast<QDialog*>(d)->accept();  // the dialog's own accept, as its button calls it
+  });
+  ASSERT_EQ(dialogues.FichierAOuvrir(routine), (routines + QStringLiteral("/r.rou")).toStdString());
+
+  // The next run: new dialogs, which know nothing of the last file chosen.
+  QString ouvertDans, musiqueDans;
+  QuandOuvert<QFileDialog>([&](QFileDialog* d) {
+    ouvertDans = d->directory().canonicalPath();
+    d->reject();
+  });
+  TDialogueFichier routineNeuve{"Ouvrir Fichier Routine", "fichiers routine ROU | *.rou", "rou", {}};
+  EXPECT_FALSE(dialogues.FichierAOuvrir(routineNeuve));
+  EXPECT_EQ(ouvertDans, routines);
+  QuandOuvert<QFileDialog>([&](QFileDialog* d) {
+    musiqueDans = d->directory().canonicalPath();
+    d->reject();
+  });
+  TDialogueFichier musique{"Ouvrir Fichier Musique", "fichiers musique WAV | *.wav", "wav", {}};
+  EXPECT_FALSE(dialogues.FichierAOuvrir(musique));
+  EXPECT_EQ(musiqueDans, QDir::current().canonicalPath());
 }
 
 TEST(QtDialogues, TheBoxShowsCaptionTextIconAndOnlyTheAskedButtons) {
@@ -73,7 +118,7 @@ TEST(QtDialogues, InputGivesTheTypedTextOrNothingOnCancel) {
   QuandOuvert<QInputDialog>([&](QInputDialog* d) {
     initiale = d->textValue();
     d->setTextValue(QStringLiteral("Vitesse élevée"));
-    d->accept();
+    static_cast<QDialog*>(d)->accept();  // the dialog's own accept, as its button calls it
   });
   EXPECT_EQ(dialogues.Saisie("Figure", "Nom :", "Boucle"), std::optional<std::string>("Vitesse élevée"));
   EXPECT_EQ(initiale, QStringLiteral("Boucle"));
