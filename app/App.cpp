@@ -9,6 +9,7 @@
 #include "model/Document.h"
 #include "platform/Rendu.h"
 #include "platform/Son.h"
+#include "session/Modification.h"
 
 #include <QApplication>
 #include <QStatusBar>
@@ -37,6 +38,8 @@ void TApp::Demarre() {
   SetSon(&son_);
   lecteur_ = std::make_unique<QFenCadre>();
   SetRendu(&lecteur_->Vue()->Rendu());
+  // The document as the editor starts: nothing to lose yet.
+  MarqueIntact();
   suivi_ = std::make_unique<QSuiviModification>();
   SuitFichiersRecents();
   editeur_->show();

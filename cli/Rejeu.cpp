@@ -244,6 +244,7 @@ int Rejoue(const std::vector<std::string>& args) {
   cadre.SetHauteurs(0, 0, 0);
   cadre.SetupWindow();
   cadre.EvSize(LARGEUR_DEPART, LARGEUR_DEPART / 2 + HAUTEUR_BANDE);
+  MarqueIntact();  // nothing to lose yet
   if (!entree.empty()) {
     std::error_code erreur;
     if (!std::filesystem::is_regular_file(entree, erreur) || !LitFichier(entree)) {

@@ -26,11 +26,7 @@ TFenCadre2::~TFenCadre2() {
   if (TFenDessin::Imp.pFenCadre == this) TFenDessin::Imp.pFenCadre = nullptr;
 }
 
-void TFenCadre2::SetupWindow() {
-  AddFeuille();
-  // The document as the editor starts: nothing to lose yet.
-  MarqueIntact();
-}
+void TFenCadre2::SetupWindow() { AddFeuille(); }
 
 void TFenCadre2::SetHauteurs(int barreControle, int onglets, int statut) {
   HauteurBarreControle = barreControle;
