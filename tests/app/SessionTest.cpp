@@ -20,16 +20,21 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QFileDialog>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -110,6 +115,46 @@ TEST_F(SessionAppTest, QtsOwnButtonsAndTheFileDialogSpeakFrench) {
   app->Editeur()->Action(251)->trigger();
   EXPECT_NE(std::find(textes.begin(), textes.end(), QStringLiteral("Ouvrir")), textes.end());
   EXPECT_NE(std::find(textes.begin(), textes.end(), QStringLiteral("Annuler")), textes.end());
+}
+
+TEST_F(SessionAppTest, TheMenusShowTheirKeysAndRecentRoutinesStillOnDiskReopen) {
+  QFenCadre2* editeur = app->Editeur();
+  const std::vector<std::pair<unsigned, const char*>> touches = {
+      {251, "Ctrl+O"}, {250, "Ctrl+S"}, {249, "Ctrl+Shift+S"}, {256, "Ctrl+P"}, {333, "Ctrl+Z"},
+      {336, "Ctrl+C"}, {337, "Ctrl+V"}, {265, "Del"},          {262, "Ctrl+N"}, {263, "Ctrl+Q"}};
+  for (const auto& [id, touche] : touches) {
+    ASSERT_NE(editeur->Action(id), nullptr) << id;
+    EXPECT_EQ(editeur->Action(id)->shortcut(), QKeySequence(QString::fromLatin1(touche))) << id;
+  }
+  const QList<QAction*> barre = editeur->menuBar()->actions();
+  const auto demo = std::find_if(barre.begin(), barre.end(), [](QAction* a) { return a->text() == QStringLiteral("&Démo"); });
+  ASSERT_NE(demo, barre.end());
+  EXPECT_EQ((*demo)->shortcut(), QKeySequence(Qt::Key_F5));
+
+  QTemporaryDir dossier;
+  ASSERT_TRUE(dossier.isValid());
+  const QString gardee = dossier.filePath(QStringLiteral("gardée.rou"));
+  const QString perdue = dossier.filePath(QStringLiteral("perdue.rou"));
+  for (const QString& f : {gardee, perdue}) {
+    QFile fichier(f);
+    ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
+    fichier.write("TEAM   1 \n");
+  }
+  FichiersRecents().Efface();
+  app->Ouvre(gardee.toStdString());
+  app->Ouvre(perdue.toStdString());
+  QFile::remove(perdue);
+  auto* menu = editeur->findChild<QMenu*>(QStringLiteral("fichiersRecents"));
+  ASSERT_NE(menu, nullptr);
+  emit menu->aboutToShow();
+  // The file gone is not offered; the other is, by its name, with its whole path shown on hover.
+  QStringList textes;
+  for (QAction* a : menu->actions())
+    if (!a->isSeparator()) textes << a->text();
+  EXPECT_EQ(textes, (QStringList{QStringLiteral("&1 gardée.rou"), QStringLiteral("Effacer la liste")}));
+  menu->actions().first()->trigger();
+  EXPECT_EQ(editeur->windowTitle(), QStringLiteral("Dessin Trajectoires : ") + gardee + QStringLiteral("[*]"));
+  FichiersRecents().Efface();
 }
 
 // Settings written by another program, or by hand: whatever the keys hold, the program
