@@ -51,6 +51,7 @@ std::span<const TGadgetBarre> BarreLecteur();
 struct TGadgetStatut {
   int Id;
   int Largeur;
+  const char* Bulle;  // what it shows, under the mouse
 };
 std::span<const TGadgetStatut> BarreStatutLecteur();
 

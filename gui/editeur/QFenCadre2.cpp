@@ -33,6 +33,7 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   CreeMenu();
   CreeBarre();
   position_ = Gadget(statusBar(), CARACTERES_GADGET_POSITION);
+  position_->setToolTip(QString::fromUtf8(BULLE_GADGET_POSITION));
   statusBar()->addPermanentWidget(position_);
 
   client_ = new QWidget(this);

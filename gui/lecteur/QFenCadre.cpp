@@ -104,6 +104,7 @@ void QFenCadre::CreeBarreStatut() {
   for (const TGadgetStatut& g : BarreStatutLecteur()) {
     const TZoneLecteur zone = g.Id == GADGET_T ? zones[0] : g.Id == GADGET_V ? zones[1] : zones[2];
     zones_[static_cast<int>(zone)] = Gadget(barre, g.Largeur);
+    zones_[static_cast<int>(zone)]->setToolTip(QString::fromUtf8(g.Bulle));
     barre->addPermanentWidget(zones_[static_cast<int>(zone)]);
   }
 }
