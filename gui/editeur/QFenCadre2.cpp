@@ -58,7 +58,7 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   connect(onglets_, &QTabBar::currentChanged, this, [this](int i) {
     if (i >= 0 && i != cadre_.GetOngletActif()) cadre_.TabSelChange(i);
   });
-  new TPlacementCadre(this, QRect(20, 20, 600, 600));
+  new TPlacementCadre(this, CADRE_EDITEUR, QString::fromLatin1(CLE_EDITEUR));
   observateur_ = AjouteObservateurModification([this](bool modifie) { setWindowModified(modifie); });
   setWindowModified(DocumentModifie());
 }

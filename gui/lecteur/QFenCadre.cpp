@@ -29,7 +29,7 @@ QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   CreeMenu();
   CreeBarre();
   CreeBarreStatut();
-  new TPlacementCadre(this, QRect(X_LECTEUR, Y_LECTEUR, LARGEUR_LECTEUR, HAUTEUR_LECTEUR));
+  new TPlacementCadre(this, CadreDefaut(), QString::fromLatin1(CLE_LECTEUR));
 
   cadence_ = new QCadence(this, [this] { return cadre_.Client().ImageAttendue(); },
                           [this] { return cadre_.Client().IdleAction(); });
@@ -43,6 +43,16 @@ QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   vue_->SetRedimensionnement([this] {
     QMetaObject::invokeMethod(this, [this] { Redimensionne(TTypeTaille::Normale); }, Qt::QueuedConnection);
   });
+}
+
+QRect QFenCadre::CadreDefaut() {
+  // Beside the editor's frame as it starts, remembered or not, on the screen it stands on.
+  const QList<QRect> ecrans = TPlacementCadre::Ecrans();
+  const QRect editeur = CadreRetenu(TPlacementCadre::Memorise(QString::fromLatin1(CLE_EDITEUR)), CADRE_EDITEUR, ecrans);
+  QRect ecran = ecrans.isEmpty() ? editeur : ecrans.first();
+  for (const QRect& e : ecrans)
+    if (e.contains(editeur.center())) ecran = e;
+  return CadreAcote(ecran, editeur, QSize(LARGEUR_LECTEUR, HAUTEUR_LECTEUR));
 }
 
 QFenCadre::~QFenCadre() { cadre_.SetVue(nullptr); }

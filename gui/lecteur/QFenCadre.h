@@ -36,6 +36,8 @@ protected:
   void changeEvent(QEvent* evenement) override;
 
 private:
+  // Where the frame stands at a first start: beside the editor's.
+  static QRect CadreDefaut();
   void CreeMenu();
   void CreeBarre();
   void CreeBarreStatut();
