@@ -32,6 +32,8 @@ public:
   void ImageDemandee() override { cadence_->Demande(); }
 
 protected:
+  // The keys of playback typed in the view: space, the arrows and Home.
+  bool eventFilter(QObject* objet, QEvent* evenement) override;
   void closeEvent(QCloseEvent* evenement) override;
   void changeEvent(QEvent* evenement) override;
 
