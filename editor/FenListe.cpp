@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "editor/FenCadre2.h"
 #include "model/Document.h"
@@ -27,6 +28,31 @@ void TFenListe::EvLButtonDown() {
 void TFenListe::ScrollTo(int x, int y) {
   XPos = std::clamp(x, 0, std::max(XRange, 0));
   YPos = std::clamp(y, 0, std::max(YRange, 0));
+}
+
+namespace {
+// Whole units in the wheel's turn plus what was left over, keeping the new remainder.
+int Unites(int delta, int& reste) {
+  reste += delta * TFenListe::UNITES_PAR_CRAN;
+  const int unites = reste / TFenListe::CRAN;  // towards zero: the rest keeps its sign
+  reste -= unites * TFenListe::CRAN;
+  return unites;
+}
+}  // namespace
+
+bool TFenListe::Molette(int dx, int dy, bool deTravers) {
+  if (deTravers && dx == 0) std::swap(dx, dy);
+  if (!BarreHorizontale) dx = 0;
+  // A turn the other way starts afresh rather than paying back the rest first.
+  if ((dx > 0 && ResteX < 0) || (dx < 0 && ResteX > 0)) ResteX = 0;
+  if ((dy > 0 && ResteY < 0) || (dy < 0 && ResteY > 0)) ResteY = 0;
+  const int x = XPos - Unites(dx, ResteX);
+  const int y = YPos - Unites(dy, ResteY);
+  const int avantX = XPos, avantY = YPos;
+  ScrollTo(x, y);
+  if (XPos == avantX && YPos == avantY) return false;
+  RetraceBD();
+  return true;
 }
 
 int TFenListe::Place(TElt* cible, int& yCible) {

@@ -20,6 +20,13 @@ public:
 
   // Scrolls to (x, y) in units, within the ranges.
   void ScrollTo(int x, int y);
+  // The mouse wheel, in eighths of a degree as the platform measures it (a notch is 120):
+  // UNITES_PAR_CRAN units a notch, away from the user scrolling up or left. What a fine wheel
+  // or a touch pad gives below a unit adds up until it makes one. With `deTravers` (Shift
+  // held) the vertical wheel scrolls sideways; sideways only while the horizontal bar shows.
+  // Lays the bars out again when the strip moved, and says so.
+  bool Molette(int dx, int dy, bool deTravers);
+  static constexpr int UNITES_PAR_CRAN = 3, CRAN = 120;
 
   TFenCadre2* pFenCadre;
   int Largeur = 0;
@@ -31,6 +38,8 @@ public:
   static constexpr int XUnit = 20, YUnit = 17;
 
 private:
+  // What the wheel gave short of a unit, in eighths of a degree times UNITES_PAR_CRAN.
+  int ResteX = 0, ResteY = 0;
   // Places every open bar from the top; returns the height they take, and in yCible the
   // scroll position that centres e's bar (unchanged when e has none).
   int Place(TElt* e, int& yCible);

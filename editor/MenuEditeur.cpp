@@ -79,36 +79,39 @@ constexpr TMenuDeroulant Menu[] = {
     {"&Options", Options},
 };
 
-constexpr TGadgetBarre Bouton(int bitmap, unsigned id) { return {TGenreGadget::Bouton, bitmap, id, 0}; }
+constexpr TGadgetBarre Bouton(int bitmap, unsigned id, const char* bulle) {
+  return {TGenreGadget::Bouton, bitmap, id, 0, bulle};
+}
 constexpr TGadgetBarre Separateur() { return {TGenreGadget::Separateur, 0, 0, 20}; }
 
 constexpr TGadgetBarre Barre[] = {
-    Bouton(399, 250),
+    Bouton(399, 250, "Enregistrer la routine"),
     Separateur(),
-    Bouton(400, 301),
-    Bouton(405, 305),
-    Bouton(409, 309),
+    Bouton(400, 301, "Tracer des segments"),
+    Bouton(405, 305, "Tracer des arcs de cercle"),
+    Bouton(409, 309, "Tracer des dérapages"),
     Separateur(),
-    Bouton(407, 307),
-    Bouton(404, 304),
-    Bouton(406, 306),
-    Bouton(408, 308),
+    Bouton(407, 307, "Insérer un posé après l'élément sélectionné"),
+    Bouton(404, 304, "Insérer un axel après l'élément sélectionné"),
+    Bouton(406, 306, "Insérer un stop après l'élément sélectionné"),
+    Bouton(408, 308, "Insérer un 540 après l'élément sélectionné"),
     Separateur(),
-    Bouton(410, 310),
-    Bouton(412, 312),
-    Bouton(411, 311),
+    Bouton(410, 310, "Insérer une rotation révo après l'élément sélectionné"),
+    Bouton(412, 312, "Tracer des segments révo"),
+    Bouton(411, 311, "Tracer des arcs révo"),
     Separateur(),
-    Bouton(420, 330),
-    {TGenreGadget::Texte, 0, GADGET_SYNCHRO, CARACTERES_GADGET_SYNCHRO},
-    Bouton(421, 331),
+    Bouton(420, 330, "Ajouter des synchronisations à l'élément sélectionné"),
+    {TGenreGadget::Texte, 0, GADGET_SYNCHRO, CARACTERES_GADGET_SYNCHRO,
+     "Élément père des synchronisations : numéro / temps"},
+    Bouton(421, 331, "Supprimer des synchronisations"),
     Separateur(),
-    Bouton(423, 333),
+    Bouton(423, 333, "Annuler la dernière action"),
     Separateur(),
-    Bouton(425, 335),
+    Bouton(425, 335, "Recalculer les temps et les vitesses"),
     Separateur(),
-    Bouton(401, 302),
+    Bouton(401, 302, "Ajouter un cerf-volant"),
     Separateur(),
-    Bouton(403, 303),
+    Bouton(403, 303, "Relancer la démonstration dans le lecteur"),
     Separateur(),
 };
 }  // namespace

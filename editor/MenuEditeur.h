@@ -13,6 +13,7 @@ std::span<const TGadgetBarre> BarreEditeur();
 inline constexpr unsigned GADGET_SYNCHRO = 4;
 inline constexpr int CARACTERES_GADGET_SYNCHRO = 5;
 inline constexpr int CARACTERES_GADGET_POSITION = 10;
+inline constexpr const char* BULLE_GADGET_POSITION = "Position de la souris sur la feuille : x , y";
 // The commands whose menu item carries a check mark.
 inline constexpr unsigned CM_MAJ_PERMANENTE = 332;
 inline constexpr unsigned CM_MAJ_PARTIELLE = 334;

@@ -26,4 +26,5 @@ struct TGadgetBarre {
   int Bitmap;   // Bouton: the picture's resource number
   unsigned Id;  // Bouton: the command; Texte: the gadget id
   int Largeur;  // Separateur: pixels; Texte: characters
+  const char* Bulle = nullptr;  // Bouton and Texte: what it does, shown under the mouse
 };

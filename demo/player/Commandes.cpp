@@ -41,41 +41,47 @@ constexpr TMenuDeroulant Menu[] = {
     {"&Options", Options},
 };
 
-constexpr TGadgetBarre Bouton(int bitmap, unsigned id) { return {TGenreGadget::Bouton, bitmap, id, 0}; }
+constexpr TGadgetBarre Bouton(int bitmap, unsigned id, const char* bulle) {
+  return {TGenreGadget::Bouton, bitmap, id, 0, bulle};
+}
 constexpr TGadgetBarre Separateur(int largeur) { return {TGenreGadget::Separateur, 0, 0, largeur}; }
 
 constexpr TGadgetBarre Barre[] = {
-    Bouton(206, CM_PAS_ARRIERE),
-    Bouton(203, CM_ARRIERE),
-    Bouton(200, CM_LECTURE),
-    Bouton(201, CM_PAUSE),
-    Bouton(204, CM_DEBUT),
-    Bouton(205, CM_PAS_AVANT),
+    Bouton(206, CM_PAS_ARRIERE, "Reculer d'un pas (flèche gauche)"),
+    Bouton(203, CM_ARRIERE, "Lecture en arrière"),
+    Bouton(200, CM_LECTURE, "Lecture (espace)"),
+    Bouton(201, CM_PAUSE, "Pause (espace)"),
+    Bouton(204, CM_DEBUT, "Retour au début (origine)"),
+    Bouton(205, CM_PAS_AVANT, "Avancer d'un pas (flèche droite)"),
     Separateur(10),
-    Bouton(219, CM_TEMPS_DEBUT),
-    {TGenreGadget::Texte, 0, GADGET_DEBUT, 3},
+    Bouton(219, CM_TEMPS_DEBUT, "Choisir l'instant du début"),
+    {TGenreGadget::Texte, 0, GADGET_DEBUT, 3, "Instant du début, en centièmes de seconde"},
     Separateur(10),
-    Bouton(207, CM_PLUS_RAPIDE),
-    Bouton(209, CM_VITESSE_NORMALE),
-    Bouton(208, CM_PLUS_LENT),
+    Bouton(207, CM_PLUS_RAPIDE, "Plus rapide, ou pas plus grand après un pas à pas (flèche haut)"),
+    Bouton(209, CM_VITESSE_NORMALE, "Vitesse normale, ou pas normal après un pas à pas"),
+    Bouton(208, CM_PLUS_LENT, "Plus lent, ou pas plus petit après un pas à pas (flèche bas)"),
     Separateur(40),
-    Bouton(218, CM_REGLAGES_DEFAUT),
+    Bouton(218, CM_REGLAGES_DEFAUT, "Caméra et soleil aux réglages par défaut"),
     Separateur(10),
-    Bouton(210, CM_ROTATION_GAUCHE),
-    Bouton(211, CM_ROTATION_DROITE),
+    Bouton(210, CM_ROTATION_GAUCHE, "Tourner la caméra vers la gauche"),
+    Bouton(211, CM_ROTATION_DROITE, "Tourner la caméra vers la droite"),
     Separateur(10),
-    Bouton(212, CM_ZOOM_PLUS),
-    Bouton(213, CM_ZOOM_MOINS),
+    Bouton(212, CM_ZOOM_PLUS, "Rapprocher la caméra"),
+    Bouton(213, CM_ZOOM_MOINS, "Éloigner la caméra"),
     Separateur(10),
-    Bouton(214, CM_DEPLACEMENT_HAUT),
-    Bouton(215, CM_DEPLACEMENT_BAS),
+    Bouton(214, CM_DEPLACEMENT_HAUT, "Monter la caméra"),
+    Bouton(215, CM_DEPLACEMENT_BAS, "Descendre la caméra"),
     Separateur(10),
-    Bouton(216, CM_SOLEIL_GAUCHE),
-    Bouton(217, CM_SOLEIL_DROITE),
+    Bouton(216, CM_SOLEIL_GAUCHE, "Déplacer le soleil vers la gauche"),
+    Bouton(217, CM_SOLEIL_DROITE, "Déplacer le soleil vers la droite"),
     Separateur(10),
 };
 
-constexpr TGadgetStatut Statut[] = {{GADGET_T, 10}, {GADGET_V, 10}, {GADGET_PAS, 10}};
+constexpr TGadgetStatut Statut[] = {
+    {GADGET_T, 10, "Temps présent de la démonstration, en centièmes de seconde"},
+    {GADGET_V, 10, "Vitesse de lecture (1 : temps réel)"},
+    {GADGET_PAS, 10, "Pas du pas à pas, en centièmes de seconde"},
+};
 }  // namespace
 
 std::span<const TMenuDeroulant> MenuLecteur() { return Menu; }

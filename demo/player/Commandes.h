@@ -51,11 +51,13 @@ std::span<const TGadgetBarre> BarreLecteur();
 struct TGadgetStatut {
   int Id;
   int Largeur;
+  const char* Bulle;  // what it shows, under the mouse
 };
 std::span<const TGadgetStatut> BarreStatutLecteur();
 
-// The frame: caption, place and size at creation, and what the start-instant dialog takes.
+// The frame: caption, size at creation (its place is beside the editor's), and what the
+// start-instant dialog takes.
 inline constexpr const char* TITRE_LECTEUR = "CV";
-inline constexpr int X_LECTEUR = 400, Y_LECTEUR = 200, LARGEUR_LECTEUR = 400, HAUTEUR_LECTEUR = 290;
+inline constexpr int LARGEUR_LECTEUR = 400, HAUTEUR_LECTEUR = 290;
 inline constexpr int TAILLE_POLICE_BARRE_LECTEUR = 10;
 inline constexpr int LONGUEUR_MAX_TEMPS_DEBUT = 50;

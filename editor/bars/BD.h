@@ -84,6 +84,9 @@ public:
   bool EstBouton(int id) const { return Boutons.count(id) != 0; }
   // Every control of the bar, label, buttons and edits, in number order.
   std::set<int> Controles() const;
+  // What control id shows or does, in a few words the view shows under the mouse; empty for
+  // an id no bar has.
+  virtual std::string Bulle(int id) const;
 
   // Fills the fields from the element once the bar exists; the classes add their label.
   virtual void SetupWindow();

@@ -19,6 +19,12 @@ TBD_Arc::TBD_Arc(TElt* elt) : TBD(elt) {
 
 TArc* TBD_Arc::Element() const { return static_cast<TArc*>(pElt); }
 
+std::string TBD_Arc::Bulle(int id) const {
+  if (id == IDC_RAYON) return "Rayon de l'arc";
+  if (id == IDC_ANGLE) return "Angle balayé par l'arc, en degrés";
+  return TBD::Bulle(id);
+}
+
 std::string TBD_Arc::Libelle() const { return "Arc " + std::to_string(pElt->Num); }
 
 void TBD_Arc::SetupWindow() {

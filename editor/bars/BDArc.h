@@ -13,6 +13,8 @@ public:
   void SetContrainte() override;
   void TrtChangep2x() override {}
   void TrtChangep2y() override {}
+  // 509 is the radius here, not a duration, and the angle the arc's sweep.
+  std::string Bulle(int id) const override;
 
 protected:
   virtual std::string Libelle() const;

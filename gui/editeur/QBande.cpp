@@ -10,6 +10,7 @@
 #include <QPalette>
 #include <QScrollBar>
 #include <QStyle>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -48,6 +49,12 @@ void QBande::Dispose() {
 void QBande::mousePressEvent(QMouseEvent* evenement) {
   // A click on the strip's free background shows where it is scrolled to.
   if (evenement->button() == Qt::LeftButton) liste_->EvLButtonDown();
+}
+
+void QBande::wheelEvent(QWheelEvent* evenement) {
+  const QPoint cran = evenement->angleDelta();
+  liste_->Molette(cran.x(), cran.y(), evenement->modifiers() & Qt::ShiftModifier);
+  evenement->accept();
 }
 
 void QBande::Defile() {

@@ -26,6 +26,8 @@ public:
 protected:
   void resizeEvent(QResizeEvent* evenement) override;
   void mousePressEvent(QMouseEvent* evenement) override;
+  // Also the wheel turned over a bar: its fields leave it to the strip.
+  void wheelEvent(QWheelEvent* evenement) override;
 
 private:
   void Dispose();

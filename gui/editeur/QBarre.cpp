@@ -232,14 +232,18 @@ void QBarre::Construit() {
   items.insert(items.end(), gabarit.items.begin(), gabarit.items.end());
   const std::set<int> ids = bd_->Controles();
   constexpr int bord = 1;
+  QLabel* legende = nullptr;  // the caption before the next control, which says the same
   for (const TItem& item : items) {
     const int x = bord + PxX(item.x);
     const int l = PxX(item.largeur);
     if (item.id == 0) {
-      auto* legende = new QLabel(QString::fromUtf8(item.texte), this);
+      legende = new QLabel(QString::fromUtf8(item.texte), this);
       legende->setGeometry(x, bord, l, PxY(8));
       continue;
     }
+    const QString bulle = QString::fromStdString(bd_->Bulle(item.id));
+    if (legende) legende->setToolTip(bulle);
+    legende = nullptr;
     if (!ids.count(item.id)) continue;
     QWidget* w = nullptr;
     if (item.id == IDC_NOM) {
@@ -262,6 +266,7 @@ void QBarre::Construit() {
       w = edit;
     }
     w->setObjectName(QStringLiteral("controle%1").arg(item.id));
+    w->setToolTip(bulle);
     controles_[item.id] = w;
   }
   // Only the edits of the tab order are reached by Tab; the others by a click.

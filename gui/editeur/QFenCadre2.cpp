@@ -37,6 +37,7 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   CreeMenu();
   CreeBarre();
   position_ = Gadget(statusBar(), CARACTERES_GADGET_POSITION);
+  position_->setToolTip(QString::fromUtf8(BULLE_GADGET_POSITION));
   statusBar()->addPermanentWidget(position_);
 
   client_ = new QWidget(this);
@@ -61,7 +62,7 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   connect(onglets_, &QTabBar::currentChanged, this, [this](int i) {
     if (i >= 0 && i != cadre_.GetOngletActif()) cadre_.TabSelChange(i);
   });
-  new TPlacementCadre(this, QRect(20, 20, 600, 600));
+  new TPlacementCadre(this, CADRE_EDITEUR, QString::fromLatin1(CLE_EDITEUR));
   observateur_ = AjouteObservateurModification([this](bool modifie) { setWindowModified(modifie); });
   setWindowModified(DocumentModifie());
 }

@@ -1,5 +1,6 @@
 #include "gui/lecteur/QFenCadre.h"
 
+#include "demo/player/Clavier.h"
 #include "demo/player/Commandes.h"
 #include "demo/player/FenApp.h"
 #include "gui/qt/Cadre.h"
@@ -10,6 +11,7 @@
 #include <QCloseEvent>
 #include <QFontMetrics>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -26,10 +28,14 @@ QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   setWindowTitle(QString::fromUtf8(TITRE_LECTEUR));
   vue_ = new QVue3D(this);
   setCentralWidget(vue_);
+  // The view takes the keys of playback: from a click, from Tab, and when the window comes up.
+  vue_->setFocusPolicy(Qt::StrongFocus);
+  vue_->installEventFilter(this);
+  vue_->setFocus();
   CreeMenu();
   CreeBarre();
   CreeBarreStatut();
-  new TPlacementCadre(this, QRect(X_LECTEUR, Y_LECTEUR, LARGEUR_LECTEUR, HAUTEUR_LECTEUR));
+  new TPlacementCadre(this, CadreDefaut(), QString::fromLatin1(CLE_LECTEUR));
 
   cadence_ = new QCadence(this, [this] { return cadre_.Client().ImageAttendue(); },
                           [this] { return cadre_.Client().IdleAction(); });
@@ -43,6 +49,16 @@ QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   vue_->SetRedimensionnement([this] {
     QMetaObject::invokeMethod(this, [this] { Redimensionne(TTypeTaille::Normale); }, Qt::QueuedConnection);
   });
+}
+
+QRect QFenCadre::CadreDefaut() {
+  // Beside the editor's frame as it starts, remembered or not, on the screen it stands on.
+  const QList<QRect> ecrans = TPlacementCadre::Ecrans();
+  const QRect editeur = CadreRetenu(TPlacementCadre::Memorise(QString::fromLatin1(CLE_EDITEUR)), CADRE_EDITEUR, ecrans);
+  QRect ecran = ecrans.isEmpty() ? editeur : ecrans.first();
+  for (const QRect& e : ecrans)
+    if (e.contains(editeur.center())) ecran = e;
+  return CadreAcote(ecran, editeur, QSize(LARGEUR_LECTEUR, HAUTEUR_LECTEUR));
 }
 
 QFenCadre::~QFenCadre() { cadre_.SetVue(nullptr); }
@@ -104,6 +120,7 @@ void QFenCadre::CreeBarreStatut() {
   for (const TGadgetStatut& g : BarreStatutLecteur()) {
     const TZoneLecteur zone = g.Id == GADGET_T ? zones[0] : g.Id == GADGET_V ? zones[1] : zones[2];
     zones_[static_cast<int>(zone)] = Gadget(barre, g.Largeur);
+    zones_[static_cast<int>(zone)]->setToolTip(QString::fromUtf8(g.Bulle));
     barre->addPermanentWidget(zones_[static_cast<int>(zone)]);
   }
 }
@@ -114,6 +131,29 @@ void QFenCadre::TexteChange(TZoneLecteur zone, const std::string& texte) {
 
 void QFenCadre::EquipeCochee(int team) {
   if (QAction* a = Action(CM_TEAM1 + static_cast<unsigned>(team) - 1)) a->setChecked(true);
+}
+
+bool QFenCadre::eventFilter(QObject* objet, QEvent* evenement) {
+  if (objet != vue_ || evenement->type() != QEvent::KeyPress) return QMainWindow::eventFilter(objet, evenement);
+  const auto* touche = static_cast<QKeyEvent*>(evenement);
+  if (touche->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+    return QMainWindow::eventFilter(objet, evenement);
+  TToucheLecteur t;
+  switch (touche->key()) {
+    case Qt::Key_Space:
+      // Held down, space would play and pause by turns.
+      if (touche->isAutoRepeat()) return true;
+      t = TToucheLecteur::Espace;
+      break;
+    case Qt::Key_Left: t = TToucheLecteur::Gauche; break;
+    case Qt::Key_Right: t = TToucheLecteur::Droite; break;
+    case Qt::Key_Up: t = TToucheLecteur::Haut; break;
+    case Qt::Key_Down: t = TToucheLecteur::Bas; break;
+    case Qt::Key_Home: t = TToucheLecteur::Origine; break;
+    default: return QMainWindow::eventFilter(objet, evenement);
+  }
+  cadre_.Client().Trt_Menu(CommandeTouche(t));
+  return true;
 }
 
 void QFenCadre::closeEvent(QCloseEvent* evenement) {

@@ -32,10 +32,14 @@ public:
   void ImageDemandee() override { cadence_->Demande(); }
 
 protected:
+  // The keys of playback typed in the view: space, the arrows and Home.
+  bool eventFilter(QObject* objet, QEvent* evenement) override;
   void closeEvent(QCloseEvent* evenement) override;
   void changeEvent(QEvent* evenement) override;
 
 private:
+  // Where the frame stands at a first start: beside the editor's.
+  static QRect CadreDefaut();
   void CreeMenu();
   void CreeBarre();
   void CreeBarreStatut();

@@ -23,6 +23,8 @@ void ConstruitBarre(QToolBar* barre, std::span<const TGadgetBarre> gadgets, cons
         // The menu holds the command's action; the button is another view of it.
         QAction* a = action(g.Id);
         a->setIcon(QIcon(prefixe + QString::number(g.Bitmap) + QStringLiteral(".svg")));
+        // Shown on the button only: the menu keeps showing no tip.
+        if (g.Bulle) a->setToolTip(QString::fromUtf8(g.Bulle));
         barre->addAction(a);
         break;
       }
@@ -32,7 +34,12 @@ void ConstruitBarre(QToolBar* barre, std::span<const TGadgetBarre> gadgets, cons
         barre->addWidget(espace);
         break;
       }
-      case TGenreGadget::Texte: barre->addWidget(texte(g)); break;
+      case TGenreGadget::Texte: {
+        QWidget* w = texte(g);
+        if (g.Bulle) w->setToolTip(QString::fromUtf8(g.Bulle));
+        barre->addWidget(w);
+        break;
+      }
     }
   }
 }

@@ -8,12 +8,14 @@
 #include "app/App.h"
 #include "editor/FenDessin.h"
 #include "gui/editeur/QFeuille.h"
+#include "gui/qt/Placement.h"
 #include "model/Document.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
 #include <QWindow>
@@ -34,6 +36,8 @@ class AppTest : public ::testing::Test {
 protected:
   void SetUp() override {
     ReinitialiseDocument();
+    // Each test starts as at a first run: no frame remembered.
+    QSettings().remove(QStringLiteral("fenetres"));
     app = std::make_unique<TApp>();
     app->Demarre();
     ASSERT_TRUE(AttendQue([&] { return Exposee(app->Editeur()) && Exposee(app->Lecteur()); }))
@@ -75,10 +79,11 @@ TEST_F(AppTest, TheEditorThenThePlayerAreShownWithTheirCaptionsAndFrames) {
   // manager and so no decoration; under one, the frame is only known a moment after showing.
   AttendQue([&] { return editeur->frameGeometry() == QRect(20, 20, 600, 600); });
   EXPECT_EQ(editeur->frameGeometry(), QRect(20, 20, 600, 600));
-  // The player is made 400 x 290, then its height follows its width so that the 3D view
-  // stays twice as wide as high.
+  // The player is made 400 x 290 to the right of the editor, on the 1280 x 1024 screen, then
+  // its height follows its width so that the 3D view stays twice as wide as high.
   AttendQue([&] { return lecteur->Vue()->height() * 2 == lecteur->Vue()->width(); });
-  EXPECT_EQ(lecteur->frameGeometry().topLeft(), QPoint(400, 200));
+  EXPECT_EQ(lecteur->frameGeometry().topLeft(), QPoint(620 + ECART_FENETRES, 20));
+  EXPECT_FALSE(lecteur->frameGeometry().intersects(editeur->frameGeometry()));
   EXPECT_EQ(lecteur->frameGeometry().width(), 400);
   EXPECT_EQ(lecteur->Vue()->width(), 400);
   EXPECT_EQ(lecteur->Vue()->height(), 200);
@@ -128,6 +133,38 @@ TEST_F(AppTest, ClosingTheEditorWithOkEndsTheEventLoopWithoutAskingThePlayer) {
   // Quitting must not go through the player's close, which refuses with a beep.
   EXPECT_EQ(dialogues.Bips, 0);
   EXPECT_TRUE(app->Lecteur()->isVisible());
+}
+
+TEST_F(AppTest, TheWindowsFramesAreRememberedWhenTheApplicationEndsAndTakenAtTheNextStart) {
+  Scripte();
+  dialogues.Reponses = {TReponse::OK};
+  const QRect lecteur(700, 650, 400, 230), editeur(40, 60, 500, 520);
+  app->Lecteur()->setGeometry(lecteur);
+  app->Editeur()->setGeometry(editeur);
+  // The player's height then follows, to keep its view twice as wide as high.
+  QVue3D* vue = app->Lecteur()->Vue();
+  ASSERT_TRUE(AttendQue([&] {
+    return app->Lecteur()->frameGeometry().topLeft() == lecteur.topLeft() && vue->height() * 2 == vue->width() &&
+           app->Editeur()->frameGeometry() == editeur;
+  }));
+  const QRect cadreLecteur = app->Lecteur()->frameGeometry();
+  ASSERT_EQ(cadreLecteur.width(), 400);
+  // The editor closes first: the loop ends once it is hidden.
+  QTimer::singleShot(0, app->Editeur(), [&] { app->Editeur()->close(); });
+  QTimer::singleShot(60000, qApp, [] { QCoreApplication::exit(99); });
+  ASSERT_EQ(QApplication::exec(), 0);
+  EXPECT_EQ(QSettings().value(QString::fromLatin1(CLE_EDITEUR)).toRect(), editeur);
+  EXPECT_EQ(QSettings().value(QString::fromLatin1(CLE_LECTEUR)).toRect(), cadreLecteur);
+
+  SetDialogues(nullptr);
+  app.reset();
+  ReinitialiseDocument();
+  app = std::make_unique<TApp>();
+  app->Demarre();
+  EXPECT_TRUE(AttendQue([&] {
+    return app->Editeur()->frameGeometry() == editeur && app->Lecteur()->frameGeometry() == cadreLecteur;
+  })) << "editor at " << ::testing::PrintToString(app->Editeur()->frameGeometry()) << ", player at "
+      << ::testing::PrintToString(app->Lecteur()->frameGeometry());
 }
 
 TEST_F(AppTest, ClosingThePlayerBeepsOnceAndLeavesItOpen) {

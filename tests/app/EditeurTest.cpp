@@ -6,6 +6,7 @@
 #include "Attente.h"
 #include "Boites.h"
 #include "app/App.h"
+#include "editor/FenListe.h"
 #include "editor/FenDessin.h"
 #include "editor/bars/BD.h"
 #include "model/Elt.h"
@@ -27,6 +28,9 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTest>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <unistd.h>
 
@@ -213,6 +217,51 @@ TEST_F(EditeurTest, AnXTypedIntoABarMovesTheElementOnTheSheetAndIntoTheFile) {
   const std::string texte = LitTout(routine);
   EXPECT_NE(texte.find("-55"), std::string::npos) << texte;
   EXPECT_EQ(texte.find("-30"), std::string::npos) << texte;
+}
+
+// The wheel turned over a field of a bar scrolls the whole strip, three units a notch; with
+// Shift, sideways while the strip is narrower than a bar.
+TEST_F(EditeurTest, TheWheelOverABarsFieldScrollsTheStrip) {
+  const fs::path routine = dossier / "longue.rou";
+  {
+    std::ofstream f(routine);
+    f << "TEAM   1 \nPOINT\t0\t0\t2\t1\t0\t-80\t20\t0.4\n";
+    for (int i = 1; i < 30; ++i)
+      f << "SEGMENT\t0\t" << i << "\t2\t1\t" << 100 * i << "\t" << (-80 + 5 * i) << "\t20\t0.4\n";
+  }
+  app->Ouvre(routine.string());
+  QBande* bande = app->Editeur()->Bande();
+  auto* premier = static_cast<TElt*>(TabLElt[0].Premier());
+  ASSERT_NE(premier, nullptr);
+  QBarre* barre = nullptr;
+  ASSERT_TRUE(AttendQue([&] {
+    barre = bande->Barre(premier->pBD);
+    return barre && barre->isVisible() && bande->Verticale()->maximum() > 10;
+  }));
+  QWidget* x = barre->Controle(IDC_X);
+  ASSERT_NE(x, nullptr);
+  const int haut = barre->y();
+  const auto Molette = [&](QPoint cran, Qt::KeyboardModifiers touches) {
+    const QPointF ici(x->width() / 2.0, x->height() / 2.0);
+    QWheelEvent e(ici, x->mapToGlobal(ici), QPoint(), cran, Qt::NoButton, touches, Qt::NoScrollPhase, false);
+    // As from the window system: Qt passes only those on to the parents, and sendEvent
+    // would make it one of the program's own.
+    QSpontaneKeyEvent::setSpontaneous(&e);
+    qApp->notify(x, &e);
+  };
+  Molette(QPoint(0, -120), Qt::NoModifier);
+  EXPECT_EQ(bande->Verticale()->value(), TFenListe::UNITES_PAR_CRAN);
+  EXPECT_EQ(barre->y(), haut - TFenListe::UNITES_PAR_CRAN * TFenListe::YUnit);
+  Molette(QPoint(0, 120), Qt::NoModifier);
+  EXPECT_EQ(bande->Verticale()->value(), 0);
+  EXPECT_EQ(barre->y(), haut);
+  // The editor's strip is narrower than a bar: the horizontal bar shows.
+  ASSERT_TRUE(bande->Horizontale()->isVisible());
+  const int gauche = barre->x();
+  Molette(QPoint(0, -120), Qt::ShiftModifier);
+  EXPECT_EQ(bande->Horizontale()->value(), TFenListe::UNITES_PAR_CRAN);
+  EXPECT_EQ(barre->x(), gauche - TFenListe::UNITES_PAR_CRAN * TFenListe::XUnit);
+  EXPECT_EQ(bande->Verticale()->value(), 0);
 }
 
 // A range copied, then pasted with a mirror chosen by the mouse in the real dialog: what the

@@ -7,6 +7,7 @@
 #include "demo/D3DDemo.h"
 #include "demo/player/Commandes.h"
 #include "demo/player/FenApp.h"
+#include "gui/editeur/QFeuille.h"
 #include "model/Document.h"
 #include "platform/Donnees.h"
 #include "platform/Horloge.h"
@@ -18,6 +19,7 @@
 #include <QOpenGLFramebufferObject>
 #include <QMenuBar>
 #include <QSet>
+#include <QTest>
 #include <QToolBar>
 
 #include <memory>
@@ -119,6 +121,44 @@ TEST_F(LecteurTest, PlayAdvancesTheTimeAndPauseHoldsIt) {
 
   lecteur->Action(CM_PLUS_RAPIDE)->trigger();
   EXPECT_EQ(Texte(TZoneLecteur::V), "V = 1.2");
+}
+
+// The keys typed in the view as a video player's: space plays and pauses by turns, the
+// arrows step and size the step, Home goes back to the start. Sent to the widget itself: with
+// no window manager no window is ever active, so none has the keyboard's focus.
+TEST_F(LecteurTest, KeysOfTheViewDrivePlaybackAndNotThoseOfTheEditor) {
+  QVue3D* vue = lecteur->Vue();
+  ASSERT_NE(Globals.pD3DDemo, nullptr);
+  QTest::keyClick(vue, Qt::Key_Space);
+  EXPECT_EQ(Globals.pD3DDemo->Mode, MODE_AVANT);
+  QTest::keyClick(vue, Qt::Key_Space);
+  EXPECT_EQ(Globals.pD3DDemo->Mode, MODE_PAUSE);
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Pause Lecture");
+  QTest::keyClick(vue, Qt::Key_Right);
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Pas à Pas Avant");
+  QTest::keyClick(vue, Qt::Key_Up);  // after a step, the step grows
+  EXPECT_EQ(Texte(TZoneLecteur::Pas), "Pas = 160");
+  QTest::keyClick(vue, Qt::Key_Left);
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Pas à Pas Arrière");
+  QTest::keyClick(vue, Qt::Key_Down);
+  EXPECT_EQ(Texte(TZoneLecteur::Pas), "Pas = 80");
+  QTest::keyClick(vue, Qt::Key_Home);
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Retour au début");
+  QTest::keyClick(vue, Qt::Key_Space);
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Lecture avant");
+  // A space held down repeats: it would play and pause by turns.
+  QTest::keyPress(vue, Qt::Key_Space);
+  EXPECT_EQ(Globals.pD3DDemo->Mode, MODE_PAUSE);
+  QKeyEvent repetee(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+  QCoreApplication::sendEvent(vue, &repetee);
+  EXPECT_EQ(Globals.pD3DDemo->Mode, MODE_PAUSE);
+
+  // The same keys in the editor's sheet leave the player alone.
+  QWidget* feuille = app->Editeur()->Feuille();
+  for (Qt::Key k : {Qt::Key_Space, Qt::Key_Right, Qt::Key_Up, Qt::Key_Home}) QTest::keyClick(feuille, k);
+  EXPECT_EQ(Globals.pD3DDemo->Mode, MODE_PAUSE);
+  EXPECT_EQ(Texte(TZoneLecteur::Pas), "Pas = 80");
+  EXPECT_EQ(Texte(TZoneLecteur::Message), "Pause Lecture");
 }
 
 TEST_F(LecteurTest, FrameGrowsTallerWhenDraggedWider) {

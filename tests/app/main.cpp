@@ -12,8 +12,8 @@ int main(int argc, char** argv) {
   // Settings and recovery copies of a run of their own, never the user's.
   QTemporaryDir reglages;
   if (!reglages.isValid()) return 1;
-  setenv("XDG_CONFIG_HOME", (reglages.path() + QStringLiteral("/config")).toLocal8Bit().constData(), 1);
-  setenv("XDG_STATE_HOME", (reglages.path() + QStringLiteral("/state")).toLocal8Bit().constData(), 1);
+  setenv("XDG_CONFIG_HOME", reglages.filePath(QStringLiteral("config")).toLocal8Bit().constData(), 1);
+  setenv("XDG_STATE_HOME", reglages.filePath(QStringLiteral("state")).toLocal8Bit().constData(), 1);
   QApplication application(argc, argv);
   PrepareApplication(application);
   return RUN_ALL_TESTS();

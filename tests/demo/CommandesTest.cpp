@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
+#include "demo/player/Clavier.h"
 #include "demo/player/Commandes.h"
+#include "demo/player/FenApp.h"
 
 namespace {
 
@@ -61,6 +64,26 @@ TEST(CommandesTest, ControlBarListsItsButtonsSeparatorsAndStartGadgetInOrder) {
   for (const TGadgetStatut& g : BarreStatutLecteur())
     statut += std::to_string(g.Id) + ":" + std::to_string(g.Largeur) + " ";
   EXPECT_EQ(statut, "0:10 1:10 2:10 ");
+}
+
+TEST(CommandesTest, SpacePausesWhatPlaysAndPlaysWhatDoesNot) {
+  // The last transport command, and what space gives after it.
+  const std::pair<unsigned, unsigned> cas[] = {
+      {CM_LECTURE, CM_PAUSE},   {CM_ARRIERE, CM_PAUSE},  {CM_PAUSE, CM_LECTURE},
+      {CM_DEBUT, CM_LECTURE},   {CM_PAS_AVANT, CM_LECTURE}, {CM_PAS_ARRIERE, CM_LECTURE},
+  };
+  for (const auto& [derniere, attendue] : cas) {
+    TFenApp::DerniereCommande = static_cast<int>(derniere);
+    EXPECT_EQ(CommandeTouche(TToucheLecteur::Espace), attendue) << derniere;
+  }
+  TFenApp::ReinitialiseStatiques();
+  EXPECT_EQ(CommandeTouche(TToucheLecteur::Espace), CM_LECTURE);  // a new player is paused
+  // The other keys give one command each, whatever was played last, and every one is the menu's.
+  for (TToucheLecteur t : {TToucheLecteur::Gauche, TToucheLecteur::Droite, TToucheLecteur::Haut,
+                           TToucheLecteur::Bas, TToucheLecteur::Origine})
+    EXPECT_NE(TexteCommande(CommandeTouche(t)), nullptr);
+  EXPECT_EQ(CommandeTouche(TToucheLecteur::Gauche), CM_PAS_ARRIERE);
+  EXPECT_EQ(CommandeTouche(TToucheLecteur::Droite), CM_PAS_AVANT);
 }
 
 }  // namespace
