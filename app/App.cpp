@@ -16,6 +16,7 @@
 TApp::TApp() = default;
 
 TApp::~TApp() {
+  recuperation_.reset();  // a clean end: its copy goes
   // The scene and its music go before the player's view, whose context holds the pictures.
   if (lecteur_) lecteur_->Cadre().Client().FermeDemo();
   SetRendu(nullptr);
@@ -35,6 +36,7 @@ void TApp::Demarre() {
   lecteur_ = std::make_unique<QFenCadre>();
   SetRendu(&lecteur_->Vue()->Rendu());
   suivi_ = std::make_unique<QSuiviModification>();
+  recuperation_ = std::make_unique<QRecuperation>();
   editeur_->show();
   lecteur_->show();
 }
@@ -42,6 +44,8 @@ void TApp::Demarre() {
 void TApp::Ouvre(const std::string& chemin) {
   if (TFenDessin* feuille = editeur_->Cadre().pFenDesActive) feuille->Ouvrir(chemin);
 }
+
+void TApp::ProposeRecuperations() { recuperation_->Propose(editeur_->Cadre(), editeur_.get()); }
 
 bool AffichageDisponible(int argc, char** argv) {
   for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
