@@ -114,6 +114,10 @@ bool EcritCopie(const TCopieRecuperation& copie, const std::string& texte, const
   // A card is read by lines: a path that holds a line end can't be kept, the copy is then
   // offered unnamed rather than not at all.
   if (f.Original.find_first_of("\r\n") != std::string::npos) f.Original.clear();
+  // The next start may be in another folder.
+  std::error_code ec;
+  if (!f.Original.empty())
+    if (fs::path absolu = fs::absolute(f.Original, ec); !ec) f.Original = absolu.string();
   // The routine first: a card always stands beside a whole routine.
   return EcritFichier(copie.Routine.string(), texte) && EcritFichier(copie.Fiche.string(), TexteFiche(f));
 }

@@ -36,7 +36,8 @@ TCopieRecuperation CopieNommee(const std::filesystem::path& dossier, const std::
 // A name that no other editor uses: its process and the moment it started, in milliseconds.
 std::string NomCopie(long processus, std::int64_t instantMs);
 
-// Writes `texte` as the copy's routine, then its card, each whole or not at all. Refused
+// Writes `texte` as the copy's routine, then its card, each whole or not at all; the card
+// holds the original's absolute path. Refused
 // (false) when the copy would land on the routine's own file. False on any failure.
 bool EcritCopie(const TCopieRecuperation& copie, const std::string& texte, const TFicheRecuperation& fiche);
 // Removes the routine and the card, not the lock: the editor that holds it removes it.
