@@ -20,6 +20,7 @@
 TApp::TApp() = default;
 
 TApp::~TApp() {
+  recuperation_.reset();  // a clean end: its copy goes
   // The scene and its music go before the player's view, whose context holds the pictures.
   if (lecteur_) lecteur_->Cadre().Client().FermeDemo();
   SetRendu(nullptr);
@@ -42,6 +43,7 @@ void TApp::Demarre() {
   MarqueIntact();
   suivi_ = std::make_unique<QSuiviModification>();
   SuitFichiersRecents();
+  recuperation_ = std::make_unique<QRecuperation>();
   editeur_->show();
   lecteur_->show();
 }
@@ -49,6 +51,8 @@ void TApp::Demarre() {
 void TApp::Ouvre(const std::string& chemin) {
   if (TFenDessin* feuille = editeur_->Cadre().pFenDesActive) feuille->Ouvrir(chemin);
 }
+
+void TApp::ProposeRecuperations() { recuperation_->Propose(editeur_->Cadre(), editeur_.get()); }
 
 void PrepareApplication(QApplication& application) {
   QCoreApplication::setOrganizationName(QStringLiteral("trajectoires"));

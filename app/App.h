@@ -5,6 +5,7 @@
 #include "gui/editeur/QFenCadre2.h"
 #include "gui/lecteur/QFenCadre.h"
 #include "gui/son/SonSDL.h"
+#include "gui/session/Recuperation.h"
 #include "gui/session/SuiviModification.h"
 
 #include <QObject>
@@ -23,6 +24,8 @@ public:
   void Demarre();
   // Opens a routine as "&Ouvrir" does once its dialog has answered.
   void Ouvre(const std::string& chemin);
+  // Offers the work that editors stopped without saving; see gui/session/Recuperation.h.
+  void ProposeRecuperations();
 
   QFenCadre2* Editeur() const { return editeur_.get(); }
   QFenCadre* Lecteur() const { return lecteur_.get(); }
@@ -33,6 +36,7 @@ private:
   std::unique_ptr<QFenCadre2> editeur_;
   std::unique_ptr<QFenCadre> lecteur_;
   std::unique_ptr<QSuiviModification> suivi_;
+  std::unique_ptr<QRecuperation> recuperation_;
 };
 
 // The program's name for its settings (~/.config/trajectoires/trajectoires.conf) and Qt's

@@ -23,5 +23,6 @@ int main(int argc, char** argv) {
   // "trajectoires ROUTINE.rou" opens the routine at start; Qt has taken its own arguments.
   const QStringList arguments = QCoreApplication::arguments();
   if (arguments.size() > 1) app.Ouvre(arguments.at(1).toStdString());
+  app.ProposeRecuperations();
   return application.exec();
 }

@@ -207,9 +207,22 @@ bool LitElement(std::string_view texte, bool avecEntete, TLigne& l) {
   return true;
 }
 
+// A figure is named as the routine wrote it: a relative name is looked up in the current
+// folder first, then in the routine's own folder (a routine opened from elsewhere, such as a
+// recovery copy read in the name of its original).
+std::string CheminFigure(const std::string& nom) {
+  namespace fs = std::filesystem;
+  std::error_code erreur;
+  const fs::path chemin(nom);
+  if (chemin.is_absolute() || fs::is_regular_file(chemin, erreur) || FichierRoutine[0] == '\0') return nom;
+  const fs::path voisin = fs::path(FichierRoutine).parent_path() / chemin;
+  if (fs::is_regular_file(voisin, erreur)) return voisin.string();
+  return nom;
+}
+
 bool FigureExiste(const TLigne& l) {
   std::error_code erreur;
-  if (std::filesystem::is_regular_file(l.Mot, erreur)) return true;
+  if (std::filesystem::is_regular_file(CheminFigure(std::string(l.Mot)), erreur)) return true;
   TFenDessin::MessageErreur(" Figure " + std::to_string(l.Num) + "  : fichier '" + std::string(l.Mot) + "' inexistant");
   return false;
 }
@@ -280,15 +293,16 @@ void TFenDessin::CreeElementInsere(const char* ligne, TListeCV* pTable) {
 
 TListeCV* TFenDessin::OuvrirFigure(const char* Fichier) {
   auto* liste = new TListeCV;
+  const std::string trouve = CheminFigure(Fichier);
   std::error_code erreur;
-  std::filesystem::path chemin = std::filesystem::weakly_canonical(Fichier, erreur);
-  if (erreur) chemin = Fichier;
+  std::filesystem::path chemin = std::filesystem::weakly_canonical(trouve, erreur);
+  if (erreur) chemin = trouve;
   if (std::find(FiguresOuvertes.begin(), FiguresOuvertes.end(), chemin) != FiguresOuvertes.end() ||
       FiguresOuvertes.size() >= IMBRICATION_MAX) {
     MessageErreur(" Figure '" + std::string(Fichier) + "' : elle se contient elle-même, ignorée");
     return liste;
   }
-  const std::optional<std::string> contenu = LitFichier(Fichier);
+  const std::optional<std::string> contenu = LitFichier(trouve);
   if (!contenu) {
     Dialogues().MessageBox("Problème d'ouverture figure '!!! ", " Ouvrir Figure");
     return liste;
