@@ -2,9 +2,10 @@
 # Recovery after a crash, with the real program on an X server: started on a routine, changed
 # with the mouse, killed with SIGKILL, started again in another folder; the copy it offers
 # is recovered with the mouse and the editor holds the change, named after the routine.
-# Usage: recuperation.sh TRAJECTOIRES TRAJECTOIRES-CLI ROUTINE (with DISPLAY set, no window manager)
+# Usage: recuperation.sh TRAJECTOIRES ROUTINE (with DISPLAY set, no window manager); the routine
+# has no track, so that the mouse's first click on the sheet starts one.
 set -euo pipefail
-app=$(realpath "$1") cli=$(realpath "$2") source=$(realpath "$3")
+app=$(realpath "$1") source=$(realpath "$2")
 if ! command -v xdotool >/dev/null; then
   echo "xdotool est absent (scripts/install-deps l'installe) : test sauté"
   exit 77
@@ -20,9 +21,8 @@ trap fin EXIT
 export XDG_STATE_HOME=$tmp/etat XDG_CONFIG_HOME=$tmp/config LIBGL_ALWAYS_SOFTWARE=1 SDL_AUDIODRIVER=dummy
 copies=$XDG_STATE_HOME/trajectoires/recuperation
 mkdir -p "$tmp/travail" "$tmp/ailleurs"
-# Solved first, so that opening it changes nothing: what changes comes from the mouse.
-"$cli" solve "$source" "$tmp/travail/routine.rou"
-cp "$tmp/travail/routine.rou" "$tmp/telle-quelle.rou"
+cp "$source" "$tmp/travail/routine.rou"
+cp "$source" "$tmp/telle-quelle.rou"
 
 # Every step waits for what it needs, however slow the machine; three minutes without it is a fault.
 attend() {
@@ -45,10 +45,10 @@ clique() { xdotool mousemove --sync "$1" "$2" click 1; }
 visibles() { xdotool search --onlyvisible --pid "$1" | wc -l; }
 au_moins() { test "$(visibles "$1")" -ge "$2"; }
 
-# 1. The editor on the routine; the segment tool from the "Construction" menu (the menu bar's
-# first title clicked, then the keyboard inside the menu, which holds it); two clicks on the
-# sheet, after which the editor lays the tracks anew: manoeuvres on the spot move to where
-# their kite now stands.
+# 1. The editor on the routine, which has no track yet; the segment tool from the
+# "Construction" menu (the menu bar's first title clicked, then the keyboard inside the menu,
+# which holds it); on the sheet, a click places the kite's start point, the mouse moves on
+# and a second click fixes a segment there.
 cd "$tmp/travail"
 "$app" routine.rou &
 pids+=($!)
@@ -60,19 +60,22 @@ geometrie "$editeur"
 avant=$(visibles "$premier")
 clique $((X + 20)) $((Y + 8))
 attend au_moins "$premier" $((avant + 1))
-xdotool key Right s Return
-# Left of the middle of the sheet: the player's window covers the editor's right half.
+# Right opens "&Construction" with its first entry, "&Segment", highlighted.
+xdotool key Right Return
 clique $((X + 120)) $((Y + 200))
+xdotool mousemove --sync $((X + 170)) $((Y + 170))
+xdotool mousemove --sync $((X + 220)) $((Y + 140))
 clique $((X + 220)) $((Y + 140))
 
-# 2. The copy appears within seconds, holds the change, and names the routine. Elements are
-# compared by kind, kite, number, sheet and whole coordinates: a routine read again keeps
+# 2. The copy appears within seconds, holds the track drawn, and names the routine. Elements
+# are compared by kind, kite, number, sheet and whole coordinates: a routine read again keeps
 # whole coordinates and solves its times anew, down to the last digits.
 attend existe "$copies/copie-$premier-*.info"
 copie=$(compgen -G "$copies/copie-$premier-*.rou")
 elements() { awk '{ printf "%s %s %s %s %d %d\n", $1, $2, $3, $4, $7, $8 }' "$1"; }
-if diff <(elements "$tmp/telle-quelle.rou") <(elements "$copie"); then
-  echo "la copie ne contient pas le changement fait à la souris"
+if ! grep -q '^POINT' "$copie" || ! grep -q '^SEGMENT' "$copie"; then
+  echo "la copie ne contient pas le tracé fait à la souris :"
+  cat "$copie"
   exit 1
 fi
 cp "$copie" "$tmp/avant-arret.rou"
