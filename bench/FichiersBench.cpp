@@ -1,5 +1,5 @@
 // Writing and reading a routine of 6 kites of 20,000 elements each, beside the floor of
-// reading the same file's bytes and cutting its lines.
+// reading the same file's bytes and cutting its lines; telling whether it changed.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -15,6 +15,7 @@
 #include "model/elements/Pt.h"
 #include "model/elements/Segment.h"
 #include "platform/Dialogues.h"
+#include "session/Modification.h"
 
 namespace {
 
@@ -84,6 +85,17 @@ void BM_LectureRoutine(benchmark::State& state) {
   state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(r.texte.size()));
 }
 BENCHMARK(BM_LectureRoutine)->Unit(benchmark::kMillisecond);
+
+// What each action of the user costs to tell whether it changed the document: the text of
+// the routine made again and compared with the last one seen.
+void BM_VerifieModification(benchmark::State& state) {
+  TRoutineTest& r = Routine();
+  LitRoutine(r.cadre, r.chemin);
+  MarqueIntact();
+  for (auto _ : state) VerifieModification();
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(r.texte.size()));
+}
+BENCHMARK(BM_VerifieModification)->Unit(benchmark::kMillisecond);
 
 // What no reader can beat: the bytes read from the file and cut into lines.
 void BM_LecturePlancher(benchmark::State& state) {
