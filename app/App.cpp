@@ -12,6 +12,7 @@
 #include "session/Modification.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QStatusBar>
 
 #include <cstdlib>
@@ -55,8 +56,12 @@ void TApp::Ouvre(const std::string& chemin) {
 void TApp::ProposeRecuperations() { recuperation_->Propose(editeur_->Cadre(), editeur_.get()); }
 
 void PrepareApplication(QApplication& application) {
+  Q_INIT_RESOURCE(application);
   QCoreApplication::setOrganizationName(QStringLiteral("trajectoires"));
   QCoreApplication::setApplicationName(QStringLiteral("trajectoires"));
+  // The desktop ties the windows to the menu entry of this name, and shows its icon.
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.trajectoires.Trajectoires"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/application/icone.svg")));
   ChargeTraductionsFrancaises(application);
 }
 

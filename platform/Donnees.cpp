@@ -26,7 +26,11 @@ std::vector<fs::path> Dossiers() {
       dossiers.push_back(p / "data");
   }
 #ifdef TRAJ_DONNEES_SOURCE
-  dossiers.emplace_back(TRAJ_DONNEES_SOURCE);
+  // Only for a program still in its build folder: an installed one has its own copy, and
+  // must not lean on a checkout that may be gone.
+  const std::string construction = TRAJ_DOSSIER_CONSTRUCTION;
+  if (!erreur && exe.string().compare(0, construction.size(), construction) == 0)
+    dossiers.emplace_back(TRAJ_DONNEES_SOURCE);
 #endif
   return dossiers;
 }

@@ -74,6 +74,10 @@ TEST_F(AppTest, TheEditorThenThePlayerAreShownWithTheirCaptionsAndFrames) {
   EXPECT_EQ(editeur->windowTitle(), QStringLiteral("Dessin Trajectoires[*]"));
   EXPECT_FALSE(editeur->isWindowModified());
   EXPECT_EQ(lecteur->windowTitle(), QStringLiteral("CV"));
+  // The desktop finds the menu entry, and both windows show the program's own icon.
+  EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("org.trajectoires.Trajectoires"));
+  for (QWidget* w : {static_cast<QWidget*>(editeur), static_cast<QWidget*>(lecteur)})
+    EXPECT_FALSE(w->windowIcon().pixmap(32, 32).isNull());
 
   // The rectangles are the frames', decorations included. Under xvfb-run there is no window
   // manager and so no decoration; under one, the frame is only known a moment after showing.
