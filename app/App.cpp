@@ -10,6 +10,7 @@
 #include "platform/Rendu.h"
 #include "platform/Son.h"
 #include "session/Modification.h"
+#include "Version.h"
 
 #include <QApplication>
 #include <QStatusBar>
@@ -57,6 +58,7 @@ void TApp::ProposeRecuperations() { recuperation_->Propose(editeur_->Cadre(), ed
 void PrepareApplication(QApplication& application) {
   QCoreApplication::setOrganizationName(QStringLiteral("trajectoires"));
   QCoreApplication::setApplicationName(QStringLiteral("trajectoires"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(TRAJ_VERSION));
   ChargeTraductionsFrancaises(application);
 }
 
