@@ -3,6 +3,7 @@
 #include "Commandes.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -78,6 +79,9 @@ int Vignette(const std::vector<std::string>& args) {
   // A picture N wide and N/2 high: the sheet's own shape, filling the N by N box a file
   // manager gives a thumbnail as wide as it may be.
   DimensionneFeuilles(cadre, taille);
+  // Never the session's platform: a file manager may run thumbnailers where no display can be
+  // reached, and Qt aborts when the one it is told to use can't start.
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
   if (!PeintPng(*cadre.GetFeuille(0), taille, out)) {
     std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", out.c_str());
     return 1;

@@ -29,11 +29,11 @@ protected:
   }
   void TearDown() override { fs::remove_all(dossier); }
 
-  // The exit code of `vignette arguments...` run from `depuis` (the test's folder by default),
-  // standard error in Erreurs().
-  int Vignette(const std::vector<std::string>& arguments, fs::path depuis = {}) {
+  // The exit code of `vignette arguments...` run from `depuis` (the test's folder by default)
+  // with `env` before it, standard error in Erreurs().
+  int Vignette(const std::vector<std::string>& arguments, fs::path depuis = {}, const std::string& env = {}) {
     if (depuis.empty()) depuis = dossier;
-    std::string commande = "cd " + Cite(depuis.string()) + " && " + Cite(TRAJ_CLI) + " vignette";
+    std::string commande = "cd " + Cite(depuis.string()) + " && " + env + " " + Cite(TRAJ_CLI) + " vignette";
     for (const std::string& a : arguments) commande += " " + Cite(a);
     commande += " 2>" + Cite((dossier / "erreurs.txt").string());
     const int statut = std::system(commande.c_str());
@@ -69,6 +69,15 @@ TEST_F(VignetteCliTest, NWideAndHalfAsHigh) {
     ASSERT_EQ(Vignette(arguments), 0) << c.n << " : " << Erreurs();
     EXPECT_EQ(Image(Chemin("v.png")).size(), QSize(c.n, c.n / 2));
   }
+}
+
+TEST_F(VignetteCliTest, OffscreenWhateverThePlatformAsked) {
+  // No display, and a platform that needs one: Qt would abort.
+  ASSERT_EQ(Vignette({Donnee("resave/chaque_classe.rou"), "v.png", "--size", "64"}, {},
+                     "env -u DISPLAY -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb"),
+            0)
+      << Erreurs();
+  EXPECT_EQ(Image(Chemin("v.png")).size(), QSize(64, 32));
 }
 
 TEST_F(VignetteCliTest, WhatIsNoRoutineGivesTheEmptySheet) {
