@@ -93,7 +93,8 @@ TEST_F(VignetteCliTest, WhatIsNoRoutineGivesTheEmptySheet) {
   // Text, bytes, a line the editor can't read and a routine without an element all read as
   // that empty routine.
   Ecrit("texte.rou", "Bonjour,\nceci n'est pas une routine.\nPOINT 0 0 2 1 0 abc 20 0.4\n");
-  Ecrit("octets.rou", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe", 20));
+  const char octets[] = "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe";
+  Ecrit("octets.rou", std::string(octets, sizeof octets - 1));
   Ecrit("equipe.rou", "TEAM 3\n");
   for (const char* nom : {"texte.rou", "octets.rou", "equipe.rou"}) {
     ASSERT_EQ(Vignette({nom, "autre.png"}), 0) << nom << " : " << Erreurs();
