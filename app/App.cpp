@@ -10,6 +10,7 @@
 #include "platform/Rendu.h"
 #include "platform/Son.h"
 #include "session/Modification.h"
+#include "Version.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -59,6 +60,7 @@ void PrepareApplication(QApplication& application) {
   Q_INIT_RESOURCE(application);
   QCoreApplication::setOrganizationName(QStringLiteral("trajectoires"));
   QCoreApplication::setApplicationName(QStringLiteral("trajectoires"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(TRAJ_VERSION));
   // The desktop ties the windows to the menu entry of this name, and shows its icon.
   QGuiApplication::setDesktopFileName(QStringLiteral("org.trajectoires.Trajectoires"));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/application/icone.svg")));

@@ -4,8 +4,22 @@
 #include <QStringList>
 #include <clocale>
 #include <cstdio>
+#include <cstring>
+
+#include "Version.h"
 
 int main(int argc, char** argv) {
+  // Answered before anything of Qt: a package's checks and scripts ask without a display.
+  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+    std::printf("trajectoires %s\n", TRAJ_VERSION);
+    return 0;
+  }
+  if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0)) {
+    std::printf("Usage: trajectoires [ROUTINE.rou]\n"
+                "       trajectoires --help | --version\n"
+                "Ouvre l'éditeur de routines, avec ROUTINE.rou s'il est donné.\n");
+    return 0;
+  }
   // Without a display Qt aborts with a message about plugins that says little; say it plainly.
   if (!AffichageDisponible(argc, argv)) {
     std::fputs("trajectoires : aucun affichage disponible (DISPLAY n'est pas défini) ; lancez le programme "

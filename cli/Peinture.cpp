@@ -1,6 +1,7 @@
 // trajectoires-cli paint: one sheet painted as the editor paints it on the screen, on a
 // surface that writes one line per drawing primitive.
 #include "Commandes.h"
+#include "Peinture.h"
 
 #include <charconv>
 #include <cstdio>
@@ -129,10 +130,9 @@ std::string Selectionne(const TOptions& o) {
 
 }  // namespace
 
-#ifdef TRAJ_AVEC_RENDU
-// cli/PeinturePng.cpp: the sheet on a white image of W by W/2, through the Qt surface.
-bool PeintPng(TFenDessin& feuille, int largeur, const std::string& chemin);
-#endif
+void DimensionneFeuilles(TFenCadre2& cadre, int largeur) {
+  for (int i = 0; i < cadre.nbFeuilles; ++i) cadre.GetFeuille(i)->SetTailleClient(largeur, largeur / 2);
+}
 
 int Peins(const std::vector<std::string>& args) {
   TOptions o;
@@ -155,8 +155,7 @@ int Peins(const std::vector<std::string>& args) {
                  std::to_string(cadre.nbFeuilles));
   if (const std::string pourquoi = Selectionne(o); !pourquoi.empty()) return Refus(pourquoi);
 
-  // The frame gives every sheet its full width and half as much height.
-  for (int i = 0; i < cadre.nbFeuilles; ++i) cadre.GetFeuille(i)->SetTailleClient(o.Largeur, o.Largeur / 2);
+  DimensionneFeuilles(cadre, o.Largeur);
   TDCJournal dc;
   cadre.GetFeuille(*feuille - 1)->Paint(dc, false, TRect());
   if (!EcritFichier(o.Positionnels[2], dc.Texte())) {

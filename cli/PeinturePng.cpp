@@ -1,4 +1,6 @@
-// trajectoires-cli paint --png: the same paint of a sheet on an image, through the Qt surface.
+// trajectoires-cli paint --png and vignette: the paint of a sheet on an image, through the Qt surface.
+#include "Peinture.h"
+
 #include <cstdlib>
 #include <string>
 

@@ -5,12 +5,13 @@
 
 #include "Commandes.h"
 #include "SonFichier.h"
+#include "Version.h"
 
 namespace {
 void Aide(std::FILE* sortie) {
   std::fprintf(sortie,
                "Usage: trajectoires-cli COMMANDE [ARGUMENTS...]\n"
-               "       trajectoires-cli --help\n\n"
+               "       trajectoires-cli --help | --version\n\n"
                "Outils en ligne de commande pour les routines (.rou) et figures (.fig).\n"
                "Les figures citées par une routine sont cherchées par leur nom, dans le dossier courant.\n"
                "Les messages de l'éditeur vont sur la sortie d'erreur ; code de sortie 0 si OUT est écrit,\n"
@@ -20,6 +21,7 @@ void Aide(std::FILE* sortie) {
   for (const TCommande& c : Commandes())
     std::fprintf(sortie, "  %-8s %-20s %s\n", c.Nom.c_str(), c.Usage.c_str(), c.Resume.c_str());
   std::fprintf(sortie, "  --help   %-20s affiche cette aide\n", "");
+  std::fprintf(sortie, "  --version %-19s affiche le numéro de version, %s\n", "", TRAJ_VERSION);
 }
 }  // namespace
 
@@ -31,6 +33,10 @@ int main(int argc, char** argv) {
   }
   if (args[0] == "--help" || args[0] == "-h") {
     Aide(stdout);
+    return 0;
+  }
+  if (args[0] == "--version") {
+    std::printf("trajectoires-cli %s\n", TRAJ_VERSION);
     return 0;
   }
   for (const TCommande& c : Commandes())

@@ -1,0 +1,1 @@
+vignette debut.rou OUT --size 15
