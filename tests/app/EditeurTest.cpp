@@ -5,6 +5,7 @@
 
 #include "Attente.h"
 #include "Boites.h"
+#include "FenetreEditeur.h"
 #include "app/App.h"
 #include "editor/FenListe.h"
 #include "editor/FenDessin.h"
@@ -44,28 +45,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class EditeurTest : public ::testing::Test {
+class EditeurTest : public FenetreEditeurTest {
 protected:
   void SetUp() override {
     fs::remove_all(dossier);
     fs::create_directories(dossier);
-    ReinitialiseDocument();
-    app = std::make_unique<TApp>();
-    app->Demarre();
-    ASSERT_TRUE(AttendQue([&] { return app->Editeur()->Feuille()->isVisible() && app->Editeur()->Feuille()->width() > 0; }));
-    feuille = app->Editeur()->Feuille();
+    FenetreEditeurTest::SetUp();
   }
   void TearDown() override {
-    app.reset();
-    ReinitialiseDocument();
+    FenetreEditeurTest::TearDown();
     fs::remove_all(dossier);
   }
 
-  // The pixel of a logical point on the sheet shown.
-  QPoint Ecran(float x, float y) const {
-    const TPoint p = feuille->Feuille()->LPtoDP(TPointf(x, y));
-    return QPoint(p.x, p.y);
-  }
   // Each gesture is done on the window and written to the script of the replay.
   void Menu(unsigned id) {
     app->Editeur()->Action(id)->trigger();
@@ -73,22 +64,15 @@ protected:
   }
   void Bouge(float x, float y) {
     const QPoint p = Ecran(x, y);
-    // Through the window, as the window system delivers a move: the widget's overload warps
-    // the X pointer, whose move comes back late, after the next click.
-    QTest::mouseMove(feuille->window()->windowHandle(), feuille->mapTo(feuille->window(), p));
-    QApplication::processEvents();
+    Deplace(p);
     script << "move " << p.x() << " " << p.y() << "\n";
   }
   void Clique(float x, float y) {
     const QPoint p = Ecran(x, y);
-    QTest::mousePress(feuille, Qt::LeftButton, Qt::NoModifier, p);
-    QTest::mouseRelease(feuille, Qt::LeftButton, Qt::NoModifier, p);
+    Presse(p);
     script << "down " << p.x() << " " << p.y() << "\nup " << p.x() << " " << p.y() << "\n";
   }
-  void CliqueMaj(float x, float y) {
-    QTest::mousePress(feuille, Qt::LeftButton, Qt::ShiftModifier, Ecran(x, y));
-    QTest::mouseRelease(feuille, Qt::LeftButton, Qt::ShiftModifier, Ecran(x, y));
-  }
+  void CliqueMaj(float x, float y) { Presse(Ecran(x, y), Qt::ShiftModifier); }
   // The companion run on files of the test's folder; true when it wrote OUT.
   bool Compagnon(const std::string& arguments) {
     const std::string commande = "cd " + Cite(dossier.string()) + " && " + Cite(TRAJ_CLI) + " " + arguments + " 2>/dev/null";
@@ -127,8 +111,6 @@ protected:
   }
 
   const fs::path dossier = fs::temp_directory_path() / ("trajectoires-editeur-" + std::to_string(getpid()));
-  std::unique_ptr<TApp> app;
-  QFeuille* feuille = nullptr;
   std::ostringstream script;
 };
 

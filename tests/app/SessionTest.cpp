@@ -5,6 +5,7 @@
 
 #include "Attente.h"
 #include "Boites.h"
+#include "FenetreEditeur.h"
 #include "app/App.h"
 #include "editor/FenDessin.h"
 #include "gui/editeur/QFeuille.h"
@@ -39,29 +40,10 @@
 
 namespace {
 
-class SessionAppTest : public ::testing::Test {
+class SessionAppTest : public FenetreEditeurTest {
 protected:
-  void SetUp() override {
-    ReinitialiseDocument();
-    app = std::make_unique<TApp>();
-    app->Demarre();
-    ASSERT_TRUE(AttendQue([&] { return app->Editeur()->Feuille()->isVisible() && app->Editeur()->Feuille()->width() > 0; }));
-    feuille = app->Editeur()->Feuille();
-  }
-  void TearDown() override {
-    app.reset();
-    ReinitialiseDocument();
-  }
-  void Clique(float x, float y) {
-    const TPoint p = feuille->Feuille()->LPtoDP(TPointf(x, y));
-    QTest::mousePress(feuille, Qt::LeftButton, Qt::NoModifier, QPoint(p.x, p.y));
-    QTest::mouseRelease(feuille, Qt::LeftButton, Qt::NoModifier, QPoint(p.x, p.y));
-  }
-  void Bouge(float x, float y) {
-    const TPoint p = feuille->Feuille()->LPtoDP(TPointf(x, y));
-    QTest::mouseMove(feuille->window()->windowHandle(), feuille->mapTo(feuille->window(), QPoint(p.x, p.y)));
-    QApplication::processEvents();
-  }
+  void Clique(float x, float y) { Presse(Ecran(x, y)); }
+  void Bouge(float x, float y) { Deplace(Ecran(x, y)); }
   // A kite's start point, then a segment, as a user draws them.
   void Dessine() {
     app->Editeur()->Action(301)->trigger();
@@ -72,9 +54,6 @@ protected:
     QTest::keyClick(feuille, Qt::Key_Escape);
   }
   static QString SansEsperluette(QString texte) { return texte.remove(u'&'); }
-
-  std::unique_ptr<TApp> app;
-  QFeuille* feuille = nullptr;
 };
 
 TEST_F(SessionAppTest, ClosingWithChangesAsksInFrenchAndAnnulerKeepsTheWindowAndTheChanges) {
