@@ -13,7 +13,9 @@ function(check_core_is_plain target)
   file(GLOB_RECURSE headers CONFIGURE_DEPENDS
     ${CMAKE_SOURCE_DIR}/model/*.h ${CMAKE_SOURCE_DIR}/files/*.h
     ${CMAKE_SOURCE_DIR}/editor/*.h ${CMAKE_SOURCE_DIR}/demo/*.h
-    ${CMAKE_SOURCE_DIR}/platform/*.h)
+    ${CMAKE_SOURCE_DIR}/platform/*.h ${CMAKE_SOURCE_DIR}/session/*.h
+    ${CMAKE_SOURCE_DIR}/securite/*.h ${CMAKE_SOURCE_DIR}/frise/*.h
+    ${CMAKE_SOURCE_DIR}/scene/*.h ${CMAKE_SOURCE_DIR}/equipe/*.h)
   foreach(f IN LISTS sources headers)
     file(STRINGS ${f} bad REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"](Q[A-Za-z]+|Qt[A-Za-z]+/|SDL|GL/|assimp/|gui/)")
     if(bad)

@@ -11,11 +11,13 @@
 #include "model/Elt.h"
 #include "model/Outils.h"
 #include "model/elements/Pt.h"
+#include "securite/Reglages.h"
 
 std::string TexteRoutine() {
   std::string texte = "TEAM   " + std::to_string(Team) + " \n";
   if (_FichierMusique[0] != '\0')
     texte += "MUSIQUE   " + std::string(_FichierMusique, strnlen(_FichierMusique, sizeof _FichierMusique)) + " \n";
+  AjouteLigneSecurite(texte);
   const int kites = std::min(nbCV, NB_CV_MAX);
   for (int i = 0; i < kites; ++i)
     for (TNoeud* n = TabLElt[i].Init2(); n; n = n->GetSuivant()) static_cast<TElt*>(n)->Enregistrer(texte, 0, 0.0f);

@@ -36,6 +36,7 @@
 #include "model/elements/Segment.h"
 #include "model/elements/Stop.h"
 #include "platform/Dialogues.h"
+#include "securite/Reglages.h"
 
 namespace {
 
@@ -81,7 +82,7 @@ struct TLigne {
 // file with none is not a routine, whatever it holds.
 int LignesReconnues = 0;
 
-// The header lines: the team and the music, in any reader mode and anywhere in the file.
+// The header lines: the team, the music and the safety settings, in any reader mode and anywhere in the file.
 bool LitEntete(std::string_view mot, TLecteurChamps& champs) {
   if (mot == "TEAM") {
     int team = 0;
@@ -96,6 +97,10 @@ bool LitEntete(std::string_view mot, TLecteurChamps& champs) {
       chemin.copy(_FichierMusique, n);
       _FichierMusique[n] = '\0';
     }
+    return true;
+  }
+  if (mot == "SECURITE") {
+    if (!LitLigneSecurite(champs)) TFenDessin::MessageErreur("Ligne SECURITE illisible : ignorée");
     return true;
   }
   return false;
@@ -319,6 +324,7 @@ namespace {
 // Empties the document as opening a routine does, before anything is read.
 void VideDocument(TFenCadre2& cadre) {
   _FichierMusique[0] = '\0';
+  ReglagesSecurite = TReglagesSecurite();
   Team = 1;
   // Every kite, not only those in use: nothing of the previous routine may stay behind.
   for (int i = 0; i < NB_CV_MAX; ++i) {

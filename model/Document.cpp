@@ -4,6 +4,7 @@
 
 #include "editor/FenDessin.h"
 #include "model/Elt.h"
+#include "securite/Reglages.h"
 
 namespace {
 // The storage itself is named only here: everything else goes through the pointers.
@@ -73,6 +74,7 @@ void ReinitialiseDocument() {
   NumFActive = 0;
   FichierRoutine[0] = '\0';
   _FichierMusique[0] = '\0';
+  ReglagesSecurite = TReglagesSecurite();
   PointDebutTampon = TPointf();
   pFenDes0 = nullptr;
   pFenAppDemo = nullptr;
