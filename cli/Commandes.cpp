@@ -107,6 +107,7 @@ int Colle(const std::vector<std::string>& args);   // cli/Collage.cpp
 int Exporte(const std::vector<std::string>& args);  // cli/Feuilles.cpp
 int Insere(const std::vector<std::string>& args);   // cli/Feuilles.cpp
 int Vignette(const std::vector<std::string>& args);  // cli/Vignette.cpp
+int Controle(const std::vector<std::string>& args);  // cli/Controle.cpp
 #ifdef TRAJ_AVEC_RENDU
 int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
 int Imprime(const std::vector<std::string>& args);  // cli/Impression.cpp, where Qt's PDF writer is
@@ -139,6 +140,9 @@ const std::vector<TCommande>& Commandes() {
        "active ... », écrit OUT (--times keep|calc|N, défaut keep ; --dx N, --dy N, défaut 0 ; "
        "--map a,b,c,d,e,f : le CV i prend le CV map[i] du fichier, défaut 1,2,3,4,5,6)",
        Insere},
+      {"check", "IN", "le même vol, contrôlé : CV trop proches, lignes enroulées, CV hors de la fenêtre, trop rapides "
+                      "(--ligne L, --distance D, --enroulement W, --vitesse V ; code 3 s'il y a un conflit)",
+       Controle},
       {"vignette", "IN OUT.png",
        "relit IN, dessine sa feuille 1 sur fond blanc dans une image PNG de N sur N/2 pixels, pour les "
        "vignettes d'un gestionnaire de fichiers (--size N, de 16 à 4096, défaut 256 ; les figures sont "

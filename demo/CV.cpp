@@ -31,10 +31,12 @@ void Signale(const char* texte, const char* texteFigure, int Num) {
     std::snprintf(ligne, sizeof ligne, texteFigure, -Num);
   else
     std::snprintf(ligne, sizeof ligne, texte, Num);
-  TFenDessin::MessageErreur(std::string(ligne));
+  if (!CV::Muet) TFenDessin::MessageErreur(std::string(ligne));
 }
 
 }  // namespace
+
+bool CV::Muet = false;
 
 void CV::ClePosition(float t, float x, float y, float z) {
   if (pTrajectoire) pTrajectoire->PosePosition(t, {x, y, z});

@@ -31,6 +31,9 @@ public:
   void PoseDroite(int Num, float t1, float t2);
   void Derapage(int Num, float t, float x, float y);
 
+  // Reports of a failed test stay unsaid: a flight built for a check, not asked for.
+  static bool Muet;
+
   float T = -1.0f;  // time reached so far
   float X = 0, Y = 0, Z = 0;
   float xZ = 0, yZ = 0, zZ = 1;  // the model's z axis: normal to the sail

@@ -90,8 +90,14 @@ private:
   static int ModePrecedent;
 };
 
+// Where a flight built away from any scene goes (demo/VolHorsScene.h), null the rest of the
+// time: the elements hand their flight to whatever CVDeLaScene gives.
+extern CV* GenerateursHorsScene;
+
 // The generator of kite `num` in the running scene, or null when there is none.
 inline CV* CVDeLaScene(int num) {
-  if (!Globals.pD3DDemo || num < 0 || num >= NB_CV_MAX) return nullptr;
+  if (num < 0 || num >= NB_CV_MAX) return nullptr;
+  if (GenerateursHorsScene) return &GenerateursHorsScene[num];
+  if (!Globals.pD3DDemo) return nullptr;
   return &Globals.pD3DDemo->TabCV[num];
 }

@@ -4,7 +4,7 @@
 // then "(code N)" when the exit status is not 0. A sample case takes its time T from its name,
 // NAME@T.rou. A replay case, NAME.rep (with NAME.rou as --in when there is one), runs in a
 // copy of its folder, so that its dialogs may write there: the OUT file, "----", both streams
-// in their order, the code, then each file new or changed in the copy. A case of commandes/,
+// in their order, the code, then each file new or changed in the copy. A case of commandes/ or securite/,
 // NAME.cmd, holds the arguments of one command, OUT standing for the file it writes, and runs
 // and reports as a replay does; so does a finding of trouvailles/, a folder NAME holding its
 // files, `cmd` and `attendu`. TRAJ_REGENERE=1 rewrites the expected files
@@ -31,6 +31,9 @@ struct TCas {
   fs::path Routine;
 };
 
+// The folders whose cases are command lines, NAME.cmd: commandes/ and one per capability.
+bool EnLigne(const std::string& dossier) { return dossier == "commandes" || dossier == "securite"; }
+
 void PrintTo(const TCas& c, std::ostream* os) { *os << c.Commande << " " << c.Routine.string(); }
 
 std::vector<TCas> Cas() {
@@ -41,8 +44,8 @@ std::vector<TCas> Cas() {
     if (fs::exists(e.path() / "cmd")) trouvailles.push_back(e.path() / "cmd");
   std::sort(trouvailles.begin(), trouvailles.end());
   for (const fs::path& t : trouvailles) cas.push_back({"trouvailles", t});
-  for (const std::string commande : {"resave", "solve", "keys", "sample", "replay", "commandes"}) {
-    const char* extension = commande == "replay" ? ".rep" : commande == "commandes" ? ".cmd" : ".rou";
+  for (const std::string commande : {"resave", "solve", "keys", "sample", "replay", "commandes", "securite"}) {
+    const char* extension = commande == "replay" ? ".rep" : EnLigne(commande) ? ".cmd" : ".rou";
     std::vector<fs::path> routines;
     for (const auto& e : fs::directory_iterator(fs::path(TRAJ_CAS) / commande))
       if (e.path().extension() == extension) routines.push_back(e.path());
@@ -104,7 +107,7 @@ TEST_P(CasTest, GivesItsExpectedFile) {
       arguments.insert(arguments.end(), {"--in", entree.filename().string()});
     return CompareAvecAttendu(EnCopie(c.Routine, arguments), attendu, dossier / "obtenu");
   }
-  if (c.Commande == "commandes" || c.Commande == "trouvailles") {
+  if (EnLigne(c.Commande) || c.Commande == "trouvailles") {
     std::istringstream ligne(LitTout(c.Routine));
     std::vector<std::string> arguments;
     for (std::string mot; ligne >> mot;) arguments.push_back(mot == "OUT" ? out : mot);

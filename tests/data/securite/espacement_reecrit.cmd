@@ -1,0 +1,1 @@
+resave espacement.rou OUT

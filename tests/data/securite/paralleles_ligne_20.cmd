@@ -1,0 +1,1 @@
+check paralleles.rou --ligne 20 --distance 2.5

@@ -1,0 +1,1 @@
+check paralleles_reglees.rou --distance 3

@@ -1,0 +1,1 @@
+check reglages_faux.rou --distance 3.5

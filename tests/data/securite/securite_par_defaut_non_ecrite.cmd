@@ -1,0 +1,1 @@
+resave reglages_par_defaut.rou OUT

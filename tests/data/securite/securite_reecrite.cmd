@@ -1,0 +1,1 @@
+resave paralleles_reglees.rou OUT

@@ -1,0 +1,1 @@
+check sortie_haut.rou

@@ -1,0 +1,1 @@
+check tour_et_retour.rou --enroulement 0.99

@@ -1,0 +1,1 @@
+check trop_rapide.rou --vitesse 50
