@@ -7,6 +7,7 @@
 #include "editor/boites/BDColler.h"
 #include "editor/boites/BDFeuille.h"
 #include "editor/boites/BDInsererFic.h"
+#include "securite/BDSecurite.h"
 
 TReponse TDialoguesScript::MessageBox(const std::string& texte, const std::string& titre, TBoutons boutons, TIcone) {
   std::fprintf(stderr, "%s: %s\n", titre.c_str(), texte.c_str());
@@ -98,6 +99,12 @@ bool TDialoguesScript::Execute(TBD_InsererFic& bd) {
   });
 }
 
+bool TDialoguesScript::Execute(TBD_Securite& bd) {
+  return Repond("securite", bd, [&](const std::vector<std::string>& mots) {
+    for (std::size_t i = 0; i < mots.size() && i < bd.Textes.size(); ++i) bd.Textes[i] = mots[i];
+  });
+}
+
 bool TDialoguesScript::Ajoute(const std::vector<std::string>& mots, const std::string& texte, std::string& erreur) {
   const std::string genre = mots.empty() ? std::string() : mots[0];
   const std::size_t n = mots.size();
@@ -118,6 +125,9 @@ bool TDialoguesScript::Ajoute(const std::vector<std::string>& mots, const std::s
              std::stoi(mots[1]) <= TBD_Coller::ID_DERNIER_MODE) {
     Reponses.push_back({genre, {mots[1], mots[2]}});
   } else if (genre == "feuilles" && ((n == 2 && mots[1] == "tout") || n == 3)) {
+    Reponses.push_back({genre, std::vector<std::string>(mots.begin() + 1, mots.end())});
+  } else if (genre == "securite" && (n == 5 || n == 6)) {
+    // L D W V, and the pilots' spacing if given: as typed in the box.
     Reponses.push_back({genre, std::vector<std::string>(mots.begin() + 1, mots.end())});
   } else if (genre == "inserer" && n == 5) {
     // TIMES DX DY MAP, the map being six values separated by commas.

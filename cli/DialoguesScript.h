@@ -13,7 +13,7 @@
 enum class TIssue { Continue, Illisible, Usage };
 
 // One queued answer: its kind ("ok", "cancel", "file", "texte", "coller", "feuilles",
-// "inserer") and its words.
+// "inserer", "securite") and its words.
 struct TReponseScript {
   std::string Genre;
   std::vector<std::string> Mots;
@@ -31,6 +31,7 @@ public:
   bool Execute(TBD_Coller& bd) override;
   bool Execute(TBD_Feuille& bd) override;
   bool Execute(TBD_InsererFic& bd) override;
+  bool Execute(TBD_Securite& bd) override;
 
   // Queues the answer written as the words after "answer"; false, with `erreur`, when they
   // are not one. `texte` is the rest of the line, for a file or a typed text with blanks.

@@ -17,10 +17,12 @@
 #include "model/Elt.h"
 #include "platform/DCJournal.h"
 #include "platform/Types.h"
+#include "securite/Alertes.h"
 
 namespace {
 
-constexpr const char* USAGE = "paint IN SHEET OUT.log [--width W] [--current K:I] [--range K:I:J] [--png OUT.png]";
+constexpr const char* USAGE =
+    "paint IN SHEET OUT.log [--width W] [--current K:I] [--range K:I:J] [--png OUT.png] [--alertes]";
 
 int Usage(const std::string& pourquoi) {
   std::fprintf(stderr, "trajectoires-cli : %s ; %s (voir --help)\n", pourquoi.c_str(), USAGE);
@@ -63,6 +65,7 @@ struct TOptions {
   std::optional<std::vector<int>> Courant;  // K, I
   std::optional<std::vector<int>> Plage;    // K, I, J
   std::string Png;  // empty: no picture
+  bool Alertes = false;  // the safety marks over the sheet, as the editor's window shows them
 };
 
 // Empty when the options are read, otherwise why not.
@@ -71,6 +74,10 @@ std::string LitOptions(const std::vector<std::string>& args, TOptions& o) {
     const std::string& a = args[i];
     if (a.rfind("--", 0) != 0) {
       o.Positionnels.push_back(a);
+      continue;
+    }
+    if (a == "--alertes") {
+      o.Alertes = true;
       continue;
     }
     if (a != "--width" && a != "--current" && a != "--range" && a != "--png") return "option inconnue « " + a + " »";
@@ -157,13 +164,15 @@ int Peins(const std::vector<std::string>& args) {
 
   DimensionneFeuilles(cadre, o.Largeur);
   TDCJournal dc;
+  if (o.Alertes) RemplaceAlertesEditeur(CalculeAlertes(VolHorsScene(), nbCV, ReglagesSecurite), ReglagesSecurite);
   cadre.GetFeuille(*feuille - 1)->Paint(dc, false, TRect());
+  if (o.Alertes) DessineAlertes(dc, *feuille);
   if (!EcritFichier(o.Positionnels[2], dc.Texte())) {
     std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", o.Positionnels[2].c_str());
     return 1;
   }
 #ifdef TRAJ_AVEC_RENDU
-  if (!o.Png.empty() && !PeintPng(*cadre.GetFeuille(*feuille - 1), o.Largeur, o.Png)) {
+  if (!o.Png.empty() && !PeintPng(*cadre.GetFeuille(*feuille - 1), o.Largeur, o.Png, o.Alertes)) {
     std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", o.Png.c_str());
     return 1;
   }

@@ -10,6 +10,7 @@ void DimensionneFeuilles(TFenCadre2& cadre, int largeur);
 
 #ifdef TRAJ_AVEC_RENDU
 // cli/PeinturePng.cpp: the sheet on a white image of W by W/2, through the Qt surface, written
-// as a PNG whatever the name of the file; false when it can't be.
-bool PeintPng(TFenDessin& feuille, int largeur, const std::string& chemin);
+// as a PNG whatever the name of the file, with the safety marks over it if asked; false when
+// it can't be.
+bool PeintPng(TFenDessin& feuille, int largeur, const std::string& chemin, bool alertes = false);
 #endif

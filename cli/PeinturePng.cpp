@@ -10,8 +10,9 @@
 
 #include "editor/FenDessin.h"
 #include "gui/qt/DCQt.h"
+#include "securite/Alertes.h"
 
-bool PeintPng(TFenDessin& feuille, int largeur, const std::string& chemin) {
+bool PeintPng(TFenDessin& feuille, int largeur, const std::string& chemin, bool alertes) {
   // Fonts need a GUI application, but no display.
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
   int argc = 1;
@@ -27,6 +28,7 @@ bool PeintPng(TFenDessin& feuille, int largeur, const std::string& chemin) {
     QPainter painter(&image);
     TDCQt dc(&painter);
     feuille.Paint(dc, false, TRect());
+    if (alertes) DessineAlertes(dc, feuille.Num);
   }
   return image.save(QString::fromStdString(chemin), "PNG");
 }

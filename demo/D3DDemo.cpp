@@ -229,6 +229,11 @@ void TD3DDemo::Go() {
       res = Rendu.OrienteCadre(Modeles[i], Trajectoires[i].Orientations.Echantillonne(t));
     if (res) return DXERROR_Direct3DRM(FichierJournal(), 1, res);
   }
+  TPairePlusProche paire;
+  if (PairePlusProche(Trajectoires, nbCV, static_cast<float>(tCourant), ReglagesSecurite, paire))
+    PlusProche = paire;
+  else
+    PlusProche.reset();
   PlaceSoleil();
   PlaceCamera();
   if (long res = Rendu.Dessine(Monde)) return DXERROR_Direct3DRM(FichierJournal(), 2, res);

@@ -2,11 +2,13 @@
 // The demonstration scene: the world of one demonstration (camera, sun, backdrop, one model
 // per kite), each kite's flight generator and key tracks, and the playback clock. The
 // player makes one at each start of a demonstration, and calls Go for each frame it draws.
+#include <optional>
 #include <string>
 
 #include "demo/CV.h"
 #include "model/Document.h"
 #include "platform/Rendu.h"
+#include "securite/Controle.h"
 
 // Playback modes.
 enum TModeLecture : int {
@@ -65,6 +67,8 @@ public:
   int nbCV;
   float tFin;
   int Team;
+  // The two kites closest to each other in the picture last drawn, if two fly then.
+  std::optional<TPairePlusProche> PlusProche;
 
   // The next Go restarts the clock; a music file is open.
   static bool _Debut;

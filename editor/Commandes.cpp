@@ -17,6 +17,7 @@
 #include "model/elements/Rot.h"
 #include "model/elements/Stop.h"
 #include "platform/Dialogues.h"
+#include "securite/BDSecurite.h"
 #include "session/FichiersRecents.h"
 #include "session/Modification.h"
 
@@ -59,6 +60,7 @@ void TFenDessin::Trt_Menu(unsigned id) {
       break;
     case CM_EFFACER_RECENTS: FichiersRecents().Efface(); break;
     case CM_SUPPRIMER: Suppr(); break;
+    case CM_SECURITE: ReglerSecurite(); break;
     case 260: EnregistrerFeuille(); break;
     case 261: OuvrirFeuille(); break;
     case 333: Undo(); break;
@@ -283,4 +285,10 @@ void TFenDessin::CloseBD() {
     for (TNoeud* n = TabLElt[k].Premier(); n; n = n->GetSuivant())
       if (auto* e = static_cast<TElt*>(n); e->pFen == this) e->CloseBD();
   if (pFenListe) pFenListe->RetraceBD();
+}
+
+void TFenDessin::ReglerSecurite() {
+  TBD_Securite bd;
+  bd.SetupWindow();
+  if (Dialogues().Execute(bd)) Statut("Réglages de sécurité modifiés");
 }

@@ -57,6 +57,8 @@ public:
   void Trt_Menu(unsigned id);
   void Echap();
   void Suppr();
+  // "Options > &Sécurité...": the routine's safety numbers, through their dialog.
+  void ReglerSecurite();
   void Suppr(TDC& dc, TElt* e);
   // The property bars of this sheet's elements.
   void OpenBD();

@@ -67,6 +67,9 @@ constexpr TEntreeMenu Options[] = {
     {CM_MAJ_PERMANENTE, "&Mise à jour permanente"},
     {CM_MAJ_PARTIELLE, "&Mise à jour partielle"},
     {335, "&Calcul temps"},
+    {0, nullptr},
+    {CM_SECURITE, "&Sécurité..."},
+    {CM_ALERTES, "A&lertes"},
 };
 
 constexpr TMenuDeroulant Menu[] = {

@@ -27,3 +27,6 @@ inline constexpr unsigned CM_SUPPRIMER = 265;
 // for the i-th file still on disk, then CM_EFFACER_RECENTS.
 inline constexpr unsigned CM_FICHIERS_RECENTS = 269;
 inline constexpr unsigned CM_PREMIER_RECENT = 270;
+// The safety checks: their settings' dialog, and the "Alertes" panel shown or hidden.
+inline constexpr unsigned CM_SECURITE = 600;
+inline constexpr unsigned CM_ALERTES = 601;

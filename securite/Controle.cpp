@@ -103,6 +103,11 @@ void SuitDirection(TSuiviPaire& s, double dx, double dy, int t) {
 
 }  // namespace
 
+std::string TexteDistanceMini(const TPairePlusProche& paire) {
+  return "Distance mini : " + Centiemes(paire.Centimetres, ',') + " m (CV " + std::to_string(paire.K1 + 1) + " – CV " +
+         std::to_string(paire.K2 + 1) + ")";
+}
+
 bool TropProche(long long centimetres, const TReglagesSecurite& reglages) {
   return centimetres < EnCentiemes(reglages.Distance);
 }
@@ -228,7 +233,7 @@ std::vector<TConstat> ControleVol(const TPistesVol& pistes, int nbCV, const TReg
   return constats;
 }
 
-bool PairePlusProche(const TPistesVol& pistes, int nbCV, float t, const TReglagesSecurite& reglages,
+bool PairePlusProche(const TTrajectoire* pistes, int nbCV, float t, const TReglagesSecurite& reglages,
                      TPairePlusProche& paire) {
   const int n = std::clamp(nbCV, 0, NB_CV_MAX);
   TVecteur3 p[NB_CV_MAX];

@@ -5,6 +5,7 @@
 //
 // Distances, speeds and wraps are compared as they are shown, to the hundredth of their unit:
 // a pair shown at 3.00 m is not closer than 3 m, whatever digits the arithmetic carried.
+#include <string>
 #include <vector>
 
 #include "demo/VolHorsScene.h"
@@ -22,7 +23,9 @@ struct TPairePlusProche {
   long long Centimetres = 0;
   TVecteur3 P1, P2;
 };
-bool PairePlusProche(const TPistesVol& pistes, int nbCV, float t, const TReglagesSecurite& reglages,
+bool PairePlusProche(const TTrajectoire* pistes, int nbCV, float t, const TReglagesSecurite& reglages,
                      TPairePlusProche& paire);
+// "Distance mini : 1,80 m (CV 1 – CV 3)", as the player's status bar shows it.
+std::string TexteDistanceMini(const TPairePlusProche& paire);
 // Whether a distance in centimetres is closer than the settings allow.
 bool TropProche(long long centimetres, const TReglagesSecurite& reglages);

@@ -13,6 +13,7 @@ struct TEtat {
   bool TexteConnu = false;
   std::string Texte;  // the routine's text when last seen
   std::map<int, std::function<void(bool)>> Observateurs;
+  std::map<int, std::function<void()>> ObservateursTexte;
   int Prochain = 1;
 };
 
@@ -28,6 +29,11 @@ void Change(bool modifie) {
   // A copy: an observer may remove itself.
   const auto observateurs = e.Observateurs;
   for (const auto& [numero, o] : observateurs) o(modifie);
+}
+
+void NouveauTexte() {
+  const auto observateurs = Etat().ObservateursTexte;
+  for (const auto& [numero, o] : observateurs) o();
 }
 
 void Reinitialise() {
@@ -48,6 +54,7 @@ void VerifieModification() {
   e.Texte = std::move(texte);
   e.TexteConnu = true;
   if (change) Change(true);
+  NouveauTexte();
 }
 
 void MarqueModifie() {
@@ -56,9 +63,12 @@ void MarqueModifie() {
 
 void MarqueIntact() {
   TEtat& e = Etat();
-  e.Texte = TexteRoutine();
+  std::string texte = TexteRoutine();
+  const bool nouveau = !e.TexteConnu || texte != e.Texte;
+  e.Texte = std::move(texte);
   e.TexteConnu = true;
   Change(false);
+  if (nouveau) NouveauTexte();
 }
 
 bool DocumentModifie() { return Etat().Modifie; }
@@ -71,6 +81,15 @@ int AjouteObservateurModification(std::function<void(bool)> observateur) {
 }
 
 void RetireObservateurModification(int numero) { Etat().Observateurs.erase(numero); }
+
+int AjouteObservateurTexte(std::function<void()> observateur) {
+  TEtat& e = Etat();
+  const int numero = e.Prochain++;
+  e.ObservateursTexte.emplace(numero, std::move(observateur));
+  return numero;
+}
+
+void RetireObservateurTexte(int numero) { Etat().ObservateursTexte.erase(numero); }
 
 std::string NomFichier(const std::string& chemin) {
   const std::size_t barre = chemin.rfind('/');

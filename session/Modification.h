@@ -18,6 +18,11 @@ void MarqueModifie();
 void MarqueIntact();
 bool DocumentModifie();
 
+// Called each time the routine's text is seen to have changed, whether or not that marks the
+// document (an opened routine is new text, but not modified). The returned number removes it.
+int AjouteObservateurTexte(std::function<void()> observateur);
+void RetireObservateurTexte(int numero);
+
 // Called with the new state each time it changes. The returned number removes it.
 int AjouteObservateurModification(std::function<void(bool modifie)> observateur);
 void RetireObservateurModification(int numero);

@@ -96,6 +96,8 @@ bool TFenApp::IdleAction() {
   Globals.pD3DDemo->Go();
   aRedessiner = false;
   Texte(TZoneLecteur::T, "T = " + std::to_string(static_cast<int>(Globals.pD3DDemo->tCourant)));
+  const auto& paire = Globals.pD3DDemo->PlusProche;
+  Texte(TZoneLecteur::Distance, paire ? TexteDistanceMini(*paire) : "");
   return true;
 }
 

@@ -8,9 +8,9 @@
 class TFenApp;
 
 // Where the player writes a text: the status bar's message area, its gadgets T, V and Pas,
-// and the start-instant gadget of the control bar.
-enum class TZoneLecteur { Message, T, V, Pas, Debut };
-inline constexpr int NB_ZONES_LECTEUR = 5;
+// the start-instant gadget of the control bar, and the closest two kites' distance.
+enum class TZoneLecteur { Message, T, V, Pas, Debut, Distance };
+inline constexpr int NB_ZONES_LECTEUR = 6;
 
 // How the frame was resized; the numbers are those of the platform's size event.
 enum class TTypeTaille { Normale = 0, Minimisee = 1, Maximisee = 2, MaxAffichee = 3, MaxCachee = 4 };
@@ -56,6 +56,6 @@ public:
 private:
   std::unique_ptr<TFenApp> pClient;
   TVueLecteur* pVue = nullptr;
-  std::string Textes[NB_ZONES_LECTEUR] = {"", "", "", "", "0"};
+  std::string Textes[NB_ZONES_LECTEUR] = {"", "", "", "", "0", ""};
   int EquipeCochee = 1;
 };

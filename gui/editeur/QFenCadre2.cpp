@@ -6,9 +6,11 @@
 #include "gui/qt/Gadgets.h"
 #include "gui/editeur/QBande.h"
 #include "gui/editeur/QFeuille.h"
+#include "gui/securite/QAlertes.h"
 #include "session/FichiersRecents.h"
 #include "session/Modification.h"
 
+#include <QToolButton>
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -19,9 +21,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QResizeEvent>
+#include <QSettings>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTimer>
 #include <QToolBar>
 
 // The pictures of the buttons live in a static library: their resources must be asked for,
@@ -62,6 +66,7 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   connect(onglets_, &QTabBar::currentChanged, this, [this](int i) {
     if (i >= 0 && i != cadre_.GetOngletActif()) cadre_.TabSelChange(i);
   });
+  AjouteAlertes();
   new TPlacementCadre(this, CADRE_EDITEUR, QString::fromLatin1(CLE_EDITEUR));
   observateur_ = AjouteObservateurModification([this](bool modifie) { setWindowModified(modifie); });
   setWindowModified(DocumentModifie());
@@ -88,6 +93,42 @@ QAction* QFenCadre2::NouvelleAction(unsigned id, const char* texte, const char* 
   });
   actions_[id] = a;
   return a;
+}
+
+void QFenCadre2::AjouteAlertes() {
+  alertes_ = new QAlertes(cadre_, this);
+  addDockWidget(Qt::BottomDockWidgetArea, alertes_);
+  statusBar()->addPermanentWidget(alertes_->Compte());
+  // Hidden until the user shows it, in this run or an earlier one: the window's frame as it
+  // was remembered holds the panel when it was shown.
+  const bool visible = QSettings().value(QStringLiteral("alertes/visible"), false).toBool();
+  alertes_->setVisible(visible);
+  QAction* a = Action(CM_ALERTES);
+  if (!a) return;
+  a->setCheckable(true);
+  a->setChecked(visible);
+  // Shown or hidden by the user, the panel takes its height from under the sheet's window
+  // rather than from the sheet and its bars.
+  connect(a, &QAction::triggered, this, [this](bool montrer) {
+    if (montrer == !alertes_->isHidden()) return;
+    const int centrale = centralWidget()->height();
+    alertes_->setVisible(montrer);
+    if (alertes_->isFloating()) return;
+    if (montrer) resizeDocks({alertes_}, {HAUTEUR_ALERTES}, Qt::Vertical);
+    // Once the layout has placed the panel, the window grows or shrinks by what the sheet's
+    // area lost or gained.
+    QTimer::singleShot(0, this, [this, centrale] {
+      resize(width(), height() + centrale - centralWidget()->height());
+    });
+  });
+  connect(alertes_, &QDockWidget::visibilityChanged, a, [this, a] {
+    a->setChecked(!alertes_->isHidden());
+    QSettings().setValue(QStringLiteral("alertes/visible"), !alertes_->isHidden());
+  });
+  // The count in the status bar opens the list.
+  connect(alertes_->Compte(), &QAbstractButton::clicked, a, [a] {
+    if (!a->isChecked()) a->trigger();
+  });
 }
 
 QAction* QFenCadre2::Action(unsigned id) const {

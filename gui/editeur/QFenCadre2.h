@@ -11,6 +11,7 @@
 #include <map>
 
 class QAction;
+class QAlertes;
 class QBande;
 class QFeuille;
 class QLabel;
@@ -31,6 +32,7 @@ public:
   // The action of a command, for tests.
   QAction* Action(unsigned id) const;
   QLabel* GadgetPosition() const { return position_; }
+  QAlertes* Alertes() const { return alertes_; }
   QLabel* GadgetSynchro() const { return synchro_; }
 
   // TVueCadre2
@@ -49,6 +51,8 @@ protected:
 private:
   void CreeMenu();
   void CreeBarre();
+  void AjouteAlertes();
+  static constexpr int HAUTEUR_ALERTES = 110;
   QAction* NouvelleAction(unsigned id, const char* texte, const char* raccourci = nullptr);
   // Fills "Fichiers &récents" with the routines still on disk.
   void Recents();
@@ -61,6 +65,7 @@ private:
   QFeuille* feuille_ = nullptr;
   QBande* bande_ = nullptr;
   QLabel* position_ = nullptr;
+  QAlertes* alertes_ = nullptr;
   QLabel* synchro_ = nullptr;
   QMenu* recents_ = nullptr;
   std::map<unsigned, QAction*> actions_;

@@ -2,6 +2,7 @@
 
 #include "editor/FenDessin.h"
 #include "gui/qt/DCQt.h"
+#include "securite/Alertes.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -47,6 +48,8 @@ void QFeuille::paintEvent(QPaintEvent* evenement) {
   const QRect r = evenement->rect();
   // The whole sheet is drawn again; Qt clips it to what was invalidated.
   feuille_->Paint(dc, true, TRect(r.left(), r.top(), r.right() + 1, r.bottom() + 1));
+  // The safety marks over all the sheet shows, in the window only.
+  DessineAlertes(dc, feuille_->Num);
 }
 
 void QFeuille::mousePressEvent(QMouseEvent* evenement) {

@@ -116,6 +116,10 @@ void QFenCadre::CreeBarreStatut() {
   QStatusBar* barre = statusBar();
   zones_[static_cast<int>(TZoneLecteur::Message)] = new QLabel(barre);
   barre->addWidget(zones_[static_cast<int>(TZoneLecteur::Message)], 1);
+  QLabel* distance = zones_[static_cast<int>(TZoneLecteur::Distance)] = new QLabel(barre);
+  distance->setObjectName(QStringLiteral("distanceMini"));
+  distance->setToolTip(QStringLiteral("Les deux CV les plus proches à cet instant"));
+  barre->addPermanentWidget(distance);
   const TZoneLecteur zones[] = {TZoneLecteur::T, TZoneLecteur::V, TZoneLecteur::Pas};
   for (const TGadgetStatut& g : BarreStatutLecteur()) {
     const TZoneLecteur zone = g.Id == GADGET_T ? zones[0] : g.Id == GADGET_V ? zones[1] : zones[2];

@@ -4,6 +4,7 @@
 #include "gui/editeur/QBoiteColler.h"
 #include "gui/editeur/QBoiteFeuille.h"
 #include "gui/editeur/QBoiteInsererFic.h"
+#include "gui/securite/QBoiteSecurite.h"
 
 #include <QApplication>
 #include <QDir>
@@ -194,6 +195,10 @@ bool TQtDialogues::Execute(TBD_Feuille& bd) { return QBoiteFeuille(bd, parent_).
 
 bool TQtDialogues::Execute(TBD_InsererFic& bd) {
   return QBoiteInsererFic(bd, parent_).exec() == QDialog::Accepted;
+}
+
+bool TQtDialogues::Execute(TBD_Securite& bd) {
+  return QBoiteSecurite(bd, parent_).exec() == QDialog::Accepted;
 }
 
 void TQtDialogues::RetireAttente() {

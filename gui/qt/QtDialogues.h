@@ -40,6 +40,7 @@ public:
   bool Execute(TBD_Coller& bd) override;
   bool Execute(TBD_Feuille& bd) override;
   bool Execute(TBD_InsererFic& bd) override;
+  bool Execute(TBD_Securite& bd) override;
 
 private:
   void RetireAttente();

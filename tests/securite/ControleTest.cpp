@@ -98,15 +98,15 @@ TEST(Controle, TheClosestPairIsAmongTheKitesFlyingThen) {
                            {{0, {5, 50, 0}}, {1000, {5, 50, 0}}},
                            {{0, {0, 51, 0}}, {500, {0, 51, 0}}}});
   TPairePlusProche p;
-  ASSERT_TRUE(PairePlusProche(pistes, 3, 100, r, p));
+  ASSERT_TRUE(PairePlusProche(pistes.data(), 3, 100, r, p));
   EXPECT_EQ(p.K1, 0);
   EXPECT_EQ(p.K2, 2);
   EXPECT_EQ(p.Centimetres, 100);
   EXPECT_TRUE(TropProche(p.Centimetres, r));
-  ASSERT_TRUE(PairePlusProche(pistes, 3, 700, r, p));
+  ASSERT_TRUE(PairePlusProche(pistes.data(), 3, 700, r, p));
   EXPECT_EQ(p.K2, 1);
   EXPECT_FALSE(TropProche(p.Centimetres, r));
-  EXPECT_FALSE(PairePlusProche(pistes, 1, 100, r, p));
+  EXPECT_FALSE(PairePlusProche(pistes.data(), 1, 100, r, p));
 }
 
 TEST(Constat, FrenchSentencesShowTheSameFiguresAsTheLines) {

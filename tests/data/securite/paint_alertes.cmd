@@ -1,0 +1,1 @@
+paint croisement.rou 1 OUT --alertes
