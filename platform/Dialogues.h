@@ -9,6 +9,7 @@ struct TDonneesImprimante;
 class TBD_Coller;
 class TBD_Feuille;
 class TBD_InsererFic;
+class TBD_Suivre;
 
 // EnregistrerAbandonnerAnnuler: "Enregistrer" answers Oui, "Ne pas enregistrer" Non.
 enum class TBoutons { OK, OKAnnuler, OuiNon, OuiNonAnnuler, EnregistrerAbandonnerAnnuler };
@@ -54,6 +55,7 @@ public:
   virtual bool Execute(TBD_Coller&) { return false; }
   virtual bool Execute(TBD_Feuille&) { return false; }
   virtual bool Execute(TBD_InsererFic&) { return false; }
+  virtual bool Execute(TBD_Suivre&) { return false; }
 };
 
 // Answers every box with its first button and writes what it was asked to standard error:

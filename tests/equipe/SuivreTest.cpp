@@ -1,0 +1,113 @@
+// Follow the leader: the followers' flight is the leader's, later by their delay, and one undo
+// takes the whole command back.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+#include "demo/D3DDemo.h"
+#include "demo/Demonstration.h"
+#include "equipe/Suivre.h"
+#include "files/Ecriture.h"
+#include "model/Document.h"
+#include "model/Elt.h"
+#include "support/Fichiers.h"
+
+namespace {
+class SuivreTest : public FichiersTest {
+protected:
+  // The leader's range: elements 2 to 7 of kite 0, its first element on "v.constante".
+  void SetUp() override {
+    FichiersTest::SetUp();
+    ASSERT_TRUE(Ouvre(Donnee("commandes/suivre.rou")));
+    premier = static_cast<TElt*>(TabLElt[0].GetPt(2));
+    dernier = static_cast<TElt*>(TabLElt[0].GetPt(7));
+    ASSERT_TRUE(premier && dernier);
+  }
+  static TVecteur3 Position(int k, float t) { return Globals.pD3DDemo->Trajectoires[k].Positions.Echantillonne(t); }
+
+  TElt* premier = nullptr;
+  TElt* dernier = nullptr;
+};
+
+float Ecart(const TVecteur3& a, const TVecteur3& b) {
+  return std::sqrt((a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y) + (a.z - b.z) * (a.z - b.z));
+}
+
+TEST_F(SuivreTest, EachFollowerFliesTheLeadersTrackItsDelaysLater) {
+  const float finPremier = premier->Gett2Param();
+  const float finPlage = dernier->Gett2Param();
+  ASSERT_TRUE(Suivre(premier, dernier, {{1, 2, 3}, 150, 551}));
+  TFenDessin::Demo();
+  ASSERT_NE(Globals.pD3DDemo, nullptr);
+  // Each follower's range is laid on the leader's points, so each sample falls on the same
+  // stretch of track. The paste anchors the first element on a whole hundredth: the follower
+  // may be up to 1/100 s off, that is, at the leader's speed here (0.11 unit per hundredth),
+  // at most 0.12 unit apart.
+  for (int n = 1; n <= 3; ++n) {
+    for (float t = finPremier; t <= finPlage; t += 5) {
+      const float ecart = Ecart(Position(n, t + 150.0f * n), Position(0, t));
+      ASSERT_LT(ecart, 0.12f) << "suiveur " << n << " à t = " << t;
+    }
+    // Before the end of its first element a follower comes from its own start point, not
+    // from the leader's track.
+    EXPECT_GT(Ecart(Position(n, 150.0f * n + 201), Position(0, 201)), 1.0f) << n;
+  }
+}
+
+TEST_F(SuivreTest, MirroredModeMirrorsEveryEndAboutTheFollowersLastPoint) {
+  const TPointf debut = static_cast<TElt*>(TabLElt[0].GetPt(1))->Getp2Param();
+  const TPointf c = static_cast<TElt*>(TabLElt[3].Premier())->Getp2Param();
+  ASSERT_TRUE(Suivre(premier, dernier, {{3}, 150, 553}));
+  ASSERT_EQ(TabLElt[3].nbNoeud(), 7u);
+  for (int i = 0; i < 6; ++i) {
+    const auto* meneur = static_cast<TElt*>(TabLElt[0].GetPt(2 + i));
+    const auto* suiveur = static_cast<TElt*>(TabLElt[3].GetPt(1 + i));
+    const TPointf m = meneur->Getp2Param(), s = suiveur->Getp2Param();
+    // A copy starts from whole units: each end may move by up to one unit.
+    EXPECT_NEAR(s.x, c.x + (m.x - debut.x), 1.0f) << i;
+    EXPECT_NEAR(s.y, c.y - (m.y - debut.y), 1.0f) << i;
+    EXPECT_EQ(suiveur->Contrainte, i == 0 ? CONTRAINTE_TEMPS : meneur->Contrainte) << i;
+    if (suiveur->Contrainte == CONTRAINTE_TEMPS) {
+      EXPECT_NEAR(suiveur->Gett2Param(), meneur->Gett2Param() + 150.0f, 1.0f) << i;
+    }
+  }
+}
+
+TEST_F(SuivreTest, OneUndoTakesEveryFollowerBack) {
+  // Undo brings back copies, whose points are whole units: the sheet is taken through one
+  // undo first, so that what follows compares like with like.
+  premier->pFen->MAJUnDo();
+  premier->pFen->Undo();
+  premier = static_cast<TElt*>(TabLElt[0].GetPt(2));
+  dernier = static_cast<TElt*>(TabLElt[0].GetPt(7));
+  const std::string avant = TexteRoutine();
+  ASSERT_TRUE(Suivre(premier, dernier, {{3, 1}, 100, 552}));
+  EXPECT_NE(TexteRoutine(), avant);
+  EXPECT_EQ(TabLElt[1].nbNoeud(), 7u);
+  EXPECT_EQ(TabLElt[3].nbNoeud(), 7u);
+  premier->pFen->Undo();
+  EXPECT_EQ(TexteRoutine(), avant);
+}
+
+TEST_F(SuivreTest, RefusalsLeaveTheDocumentAsItWas) {
+  const std::string avant = TexteRoutine();
+  const struct {
+    TParamSuivre p;
+    const char* message;
+  } cas[] = {
+      {{{1, 0}, 150, 551}, "!!!! Suivre impossible : le CV n°1 est le meneur"},
+      {{{1, 4}, 150, 551}, "!!!! Suivre impossible : pas de CV n°5"},
+      {{{-1}, 150, 551}, "!!!! Suivre impossible : pas de CV n°0"},
+      {{{2, 3, 2}, 150, 551}, "!!!! Suivre impossible : le CV n°3 est nommé deux fois"},
+      {{{}, 150, 551}, "!!!! Suivre impossible : aucun CV suiveur"},
+  };
+  for (const auto& c : cas) {
+    dialogues.Statuts.clear();
+    EXPECT_FALSE(Suivre(premier, dernier, c.p));
+    ASSERT_EQ(dialogues.Statuts.size(), 1u) << c.message;
+    EXPECT_EQ(dialogues.Statuts[0], c.message);
+    EXPECT_EQ(TexteRoutine(), avant) << c.message;
+  }
+}
+}  // namespace
