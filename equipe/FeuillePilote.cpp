@@ -36,15 +36,18 @@ void EtiquettesPilote(TDC& dc, TFenDessin& feuille, int k) {
   if (k < 0 || k >= nbCV) return;
   ModePixels(dc);
   dc.SelectObject(TFont{"Arial", Pixels(11), 400, 1});
-  dc.SetTextAlign(TA_LEFT | TA_BOTTOM);
   dc.SetBkMode(TBkMode::Transparent);
   dc.SetTextColor(TColor::Black);
+  // Above and below the track by turns, so that the labels of two close ends stay apart.
+  bool dessus = true;
   for (TNoeud* n = TabLElt[k].Premier(); n; n = n->GetSuivant()) {
     auto* e = static_cast<TElt*>(n);
     if (e->pFen != &feuille) continue;
     const TPointf p = e->Getp2Param();
     const TPoint d = feuille.LPtoDP(p);
-    dc.TextOut(TPoint(d.x + Pixels(5), d.y - Pixels(3)), EtiquettePilote(p.x, p.y, e->Gett2Param()));
+    dc.SetTextAlign(TA_LEFT | (dessus ? TA_BOTTOM : TA_TOP));
+    dc.TextOut(TPoint(d.x + Pixels(5), d.y + (dessus ? -Pixels(3) : Pixels(3))), EtiquettePilote(p.x, p.y, e->Gett2Param()));
+    dessus = !dessus;
   }
   dc.SetBkMode(TBkMode::Opaque);
   dc.SetTextAlign(TA_LEFT | TA_TOP);

@@ -7,6 +7,8 @@
 
 #include "demo/D3DDemo.h"
 #include "demo/Demonstration.h"
+#include "editor/MenuEditeur.h"
+#include "equipe/BDSuivre.h"
 #include "equipe/Suivre.h"
 #include "files/Ecriture.h"
 #include "model/Document.h"
@@ -88,6 +90,57 @@ TEST_F(SuivreTest, OneUndoTakesEveryFollowerBack) {
   EXPECT_EQ(TabLElt[3].nbNoeud(), 7u);
   premier->pFen->Undo();
   EXPECT_EQ(TexteRoutine(), avant);
+}
+
+// The dialog answered by the test: kites 2 and 3 follow, 200 later each, mirrored in y.
+class TDialoguesSuivre : public TDialoguesScriptes {
+public:
+  bool Execute(TBD_Suivre& bd) override {
+    ++Montres;
+    Meneur = bd.Meneur;
+    bd.Param->Suiveurs = {2, 3};
+    bd.Param->Delai = 200;
+    bd.Param->Mode = 554;
+    return Accepte;
+  }
+  int Montres = 0;
+  int Meneur = -1;
+  bool Accepte = true;
+};
+
+TEST_F(SuivreTest, TheMenuCommandAsksTheDialogAndUndoTakesItBack) {
+  TDialoguesSuivre boite;
+  SetDialogues(&boite);
+  TFenDessin* feuille = premier->pFen;
+  // With nothing selected the dialog is not shown.
+  TFenDessin::pEltCourant2 = TFenDessin::pEltCourant = nullptr;
+  feuille->Trt_Menu(CM_SUIVRE_MENEUR);
+  EXPECT_EQ(boite.Montres, 0);
+  ASSERT_FALSE(boite.Statuts.empty());
+  EXPECT_EQ(boite.Statuts.back(), "!!!! Sélection Vide");
+
+  feuille->MAJUnDo();
+  feuille->Undo();  // undo's own rounding, as below
+  premier = static_cast<TElt*>(TabLElt[0].GetPt(2));
+  dernier = static_cast<TElt*>(TabLElt[0].GetPt(7));
+  const std::string avant = TexteRoutine();
+  TFenDessin::pEltCourant2 = premier;
+  TFenDessin::pEltCourant = dernier;
+  boite.Accepte = false;
+  feuille->Trt_Menu(CM_SUIVRE_MENEUR);
+  EXPECT_EQ(TexteRoutine(), avant);
+  boite.Accepte = true;
+  feuille->Trt_Menu(CM_SUIVRE_MENEUR);
+  EXPECT_EQ(boite.Montres, 2);
+  EXPECT_EQ(boite.Meneur, 0);
+  EXPECT_EQ(ParamSuivre().Delai, 200);  // kept for the next use
+  EXPECT_EQ(TabLElt[2].nbNoeud(), 7u);
+  EXPECT_EQ(TabLElt[3].nbNoeud(), 7u);
+  EXPECT_EQ(static_cast<TElt*>(TabLElt[3].Dernier())->Gett2Param(), dernier->Gett2Param() + 400.0f);
+  feuille->Trt_Menu(333);
+  EXPECT_EQ(TexteRoutine(), avant);
+  SetDialogues(&dialogues);
+  ParamSuivre() = TParamSuivre();
 }
 
 TEST_F(SuivreTest, RefusalsLeaveTheDocumentAsItWas) {
