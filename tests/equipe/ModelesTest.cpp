@@ -2,6 +2,7 @@
 // apart and within a safe speed, sampled as the player samples them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <set>
@@ -10,8 +11,12 @@
 #include "demo/D3DDemo.h"
 #include "demo/Demonstration.h"
 #include "editor/FenDessin.h"
+#include "editor/MenuEditeur.h"
+#include "files/Ecriture.h"
 #include "files/Lecture.h"
 #include "model/Document.h"
+#include "session/FichiersRecents.h"
+#include "session/Modification.h"
 #include "support/Fichiers.h"
 
 namespace {
@@ -56,5 +61,35 @@ TEST_F(ModelesTest, EachFliesItsKitesApartAndWithinSpeed) {
     EXPECT_LT(rapide, VITESSE_MAX);
   }
   EXPECT_GE(vus.size(), 6u);
+}
+
+TEST_F(ModelesTest, NewFromAModelOpensAnUntitledChangedCopy) {
+  ASSERT_TRUE(Ouvre(""));
+  TFenDessin& feuille = *cadre->pFenDesActive;
+  const fs::path modele = fs::canonical(DOSSIER / "vague.rou");
+  const std::string texte = Donnee("../../data/modeles/vague.rou");
+  // Cancelled: nothing changes.
+  feuille.Trt_Menu(CM_NOUVEAU_MODELE);
+  ASSERT_EQ(dialogues.Fichiers.size(), 1u);
+  EXPECT_EQ(dialogues.Fichiers[0].Titre, "Nouveau d'après un modèle");
+  EXPECT_FALSE(DocumentModifie());
+  EXPECT_EQ(nbCV, 1);
+
+  dialogues.Textes.push_back(modele.string());
+  feuille.Trt_Menu(CM_NOUVEAU_MODELE);
+  EXPECT_EQ(nbCV, 6);
+  EXPECT_EQ(std::string(FichierRoutine), "");
+  EXPECT_EQ(cadre->GetTitre(), "Dessin Trajectoires");
+  EXPECT_TRUE(DocumentModifie());
+  const auto& recents = FichiersRecents().Tous();
+  EXPECT_EQ(std::find(recents.begin(), recents.end(), modele.string()), recents.end());
+  EXPECT_EQ(TexteRoutine(), texte);  // the model's own tracks and times, unchanged
+
+  // A second model asks first about the changes of the copy.
+  dialogues.Reponses.push_back(TReponse::Annuler);
+  feuille.Trt_Menu(CM_NOUVEAU_MODELE);
+  ASSERT_EQ(dialogues.Boites.size(), 1u);
+  EXPECT_EQ(dialogues.Fichiers.size(), 2u);
+  EXPECT_EQ(nbCV, 6);
 }
 }  // namespace

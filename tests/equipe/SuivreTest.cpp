@@ -143,6 +143,43 @@ TEST_F(SuivreTest, TheMenuCommandAsksTheDialogAndUndoTakesItBack) {
   ParamSuivre() = TParamSuivre();
 }
 
+TEST_F(SuivreTest, AFollowerStartsWhereTheRangeStartsAndLandsBeforeItsLaterSheets) {
+  // Kite 1 starts on sheet 2 only; kite 2 has its start on sheet 1 and an element on sheet 2;
+  // kite 3 has nothing yet.
+  ASSERT_TRUE(Ouvre("TEAM   1 \n"
+                    "POINT   \t0\t0\t2\t1\t0\t\t-60  30\t\t0.4\t\t\n"
+                    "SEGMENT \t0\t1\t2\t1\t200\t\t-40  30\t\t0.4\t\t\n"
+                    "SEGMENT \t0\t2\t2\t1\t400\t\t-20  30\t\t0.4\t\t\n"
+                    "SEGMENT \t0\t3\t2\t2\t600\t\t0  30\t\t0.4\t\t\n"
+                    "POINT   \t1\t4\t2\t2\t0\t\t60  30\t\t0.4\t\t\n"
+                    "SEGMENT \t1\t5\t2\t2\t600\t\t40  30\t\t0.4\t\t\n"
+                    "POINT   \t2\t6\t2\t1\t0\t\t60  60\t\t0.4\t\t\n"
+                    "SEGMENT \t2\t7\t2\t2\t600\t\t40  60\t\t0.4\t\t\n"));
+  nbCV = 4;
+  ASSERT_TRUE(TabLElt[3].IsVide());
+  premier = static_cast<TElt*>(TabLElt[0].GetPt(1));
+  dernier = static_cast<TElt*>(TabLElt[0].GetPt(2));
+  dialogues.Statuts.clear();
+  EXPECT_FALSE(Suivre(premier, dernier, {{2, 1}, 100, 551}));
+  ASSERT_FALSE(dialogues.Statuts.empty());
+  EXPECT_EQ(dialogues.Statuts.back(), "!!!! Suivre impossible : le CV n°2 commence sur une feuille suivante");
+
+  ASSERT_TRUE(Suivre(premier, dernier, {{2, 3}, 100, 551}));
+  // Kite 2: its start, the two copies on sheet 1, then its element of sheet 2.
+  ASSERT_EQ(TabLElt[2].nbNoeud(), 4u);
+  const auto* copie = static_cast<TElt*>(TabLElt[2].GetPt(2));
+  EXPECT_EQ(copie->pFen, premier->pFen);
+  EXPECT_EQ(copie->Getp2Param().x, -20.0f);
+  EXPECT_EQ(static_cast<TElt*>(TabLElt[2].Dernier())->Getp2Param().x, 40.0f);
+  // Kite 3: a start point where the range starts, then the copies, 200 later.
+  ASSERT_EQ(TabLElt[3].nbNoeud(), 3u);
+  const auto* depart = static_cast<TElt*>(TabLElt[3].Premier());
+  EXPECT_EQ(depart->Getp2Param().x, -60.0f);
+  EXPECT_EQ(depart->Getp2Param().y, 30.0f);
+  EXPECT_EQ(depart->pFen, premier->pFen);
+  EXPECT_FLOAT_EQ(static_cast<TElt*>(TabLElt[3].Dernier())->Gett2Param(), dernier->Gett2Param() + 200.0f);
+}
+
 TEST_F(SuivreTest, RefusalsLeaveTheDocumentAsItWas) {
   const std::string avant = TexteRoutine();
   const struct {
