@@ -5,7 +5,10 @@
 #include <sstream>
 #include <string>
 
+#include "editor/FenCadre2.h"
+#include "editor/FenDessin.h"
 #include "equipe/Notation.h"
+#include "support/DocumentTest.h"
 
 TEST(NotationTest, CornersCentreAndTruncatedValues) {
   std::ifstream f(std::string(TRAJ_TEST_DATA) + "/equipe/notation.txt");
@@ -22,4 +25,24 @@ TEST(NotationTest, CornersCentreAndTruncatedValues) {
     ++cas;
   }
   EXPECT_GE(cas, 10);
+}
+
+// The editor's position gadget: the mouse's logical coordinates, then the same point in the
+// pilots' notation.
+class PositionTest : public DocumentTest {};
+
+TEST_F(PositionTest, TheGadgetShowsTheNotationBesideTheCoordinates) {
+  TFenCadre2 cadre;
+  cadre.SetHauteurs(0, 0, 0);
+  cadre.SetupWindow();
+  cadre.EvSize(880, 640);
+  TFenDessin& feuille = *cadre.pFenDesActive;
+  TDCEnregistreur dc;
+  feuille.SetEchelle(dc);
+  const std::pair<TPointf, const char*> cas[] = {
+      {{-70, 10}, "-70 , 10   <70 ^10"}, {{45, 80}, "45 , 80   >45 ^80"}, {{0, 50}, "0 , 50   <>0 ^50"}};
+  for (const auto& [p, attendu] : cas) {
+    feuille.EvMouseMove(0, feuille.LPtoDP(p));
+    EXPECT_EQ(cadre.GetTextePosition(), attendu);
+  }
 }
