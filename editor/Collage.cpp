@@ -49,8 +49,8 @@ void TFenDessin::Coller() {
 }
 
 void TFenDessin::ColleTampon(TElt* apres, TFenDessin* feuille, int mode, int decalage) {
-  // The range lands on the given sheet and after the given element's kite, whatever its
-  // source. This is done before the spare copy is taken, because the sheet the range was
+  // The range lands on the given sheet, in the track of `apres`, whatever its source. This
+  // is done before the spare copy is taken, because the sheet the range was
   // copied from may have been removed since.
   for (TNoeud* n = Tampon->Premier(); n; n = n->GetSuivant()) {
     auto* e = static_cast<TElt*>(n);
