@@ -26,6 +26,29 @@ TElt* DernierJusqua(int k, int feuille) {
   return trouve;
 }
 
+// The command copies and pastes through buffers of its own, so that what the user copied
+// stays ready to paste.
+class TTamponsPropres {
+public:
+  TTamponsPropres() : tampon_(Tampon), tampon2_(Tampon2), point_(PointDebutTampon) {
+    Tampon = &a_;
+    Tampon2 = &b_;
+  }
+  ~TTamponsPropres() {
+    Tampon = tampon_;
+    Tampon2 = tampon2_;
+    PointDebutTampon = point_;
+  }
+  TTamponsPropres(const TTamponsPropres&) = delete;
+  TTamponsPropres& operator=(const TTamponsPropres&) = delete;
+
+private:
+  TListeCV* tampon_;
+  TListeCV* tampon2_;
+  TPointf point_;
+  TListeCV a_, b_;
+};
+
 bool Refuse(const std::string& raison) {
   TFenDessin::MessageErreur("Suivre impossible : " + raison);
   return false;
@@ -55,6 +78,7 @@ bool Suivre(TElt* premier, TElt* dernier, const TParamSuivre& p) {
   }
   if (!Accepte(premier, p)) return false;
   TFenDessin* feuille = premier->pFen;
+  const TTamponsPropres tampons;
   feuille->MAJUnDo();
   // The followers take the leader's times as the solver gives them, not as they were last
   // written.

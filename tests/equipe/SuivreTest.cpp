@@ -84,7 +84,14 @@ TEST_F(SuivreTest, OneUndoTakesEveryFollowerBack) {
   premier = static_cast<TElt*>(TabLElt[0].GetPt(2));
   dernier = static_cast<TElt*>(TabLElt[0].GetPt(7));
   const std::string avant = TexteRoutine();
+  // What the user copied before stays in the copy buffer.
+  TFenDessin::pEltCourant2 = TFenDessin::pEltCourant = static_cast<TElt*>(TabLElt[0].GetPt(1));
+  premier->pFen->Copier();
+  const TPointf debutCopie = PointDebutTampon;
   ASSERT_TRUE(Suivre(premier, dernier, {{3, 1}, 100, 552}));
+  ASSERT_EQ(Tampon->nbNoeud(), 1u);
+  EXPECT_EQ(static_cast<TElt*>(Tampon->Premier())->Getp2Param().x, -40.0f);
+  EXPECT_EQ(PointDebutTampon.x, debutCopie.x);
   EXPECT_NE(TexteRoutine(), avant);
   EXPECT_EQ(TabLElt[1].nbNoeud(), 7u);
   EXPECT_EQ(TabLElt[3].nbNoeud(), 7u);
