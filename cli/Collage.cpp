@@ -16,15 +16,6 @@ int Usage(const char* raison) {
   return 2;
 }
 
-TElt* Element(int k, int i) {
-  return k >= 0 && k < nbCV && i >= 0 ? static_cast<TElt*>(TabLElt[k].GetPt(i)) : nullptr;
-}
-
-// The sheet of e made the active one, as a click on its tab does.
-TFenDessin* Montre(TFenCadre2& cadre, TElt* e) {
-  if (cadre.pFenDesActive != e->pFen) cadre.TabSelChange(e->pFen->Num - 1);
-  return cadre.pFenDesActive;
-}
 }  // namespace
 
 int Colle(const std::vector<std::string>& args) {
@@ -41,15 +32,14 @@ int Colle(const std::vector<std::string>& args) {
   TElt* fin = debut ? Element(k, dernier) : nullptr;
   TElt* apres = Element(tk, cible);
   if (!debut || !fin || !apres) return Usage("une position ne désigne aucun élément, ou la plage commence à 0");
-  for (TElt* e = debut; e != fin; e = e->GetEltSuivant())
-    if (e->pFen != fin->pFen) return Usage("la plage s'étend sur plusieurs feuilles");
+  if (!SurUneFeuille(debut, fin)) return Usage("la plage s'étend sur plusieurs feuilles");
 
-  TFenDessin* feuille = Montre(editeur.Cadre, debut);
+  TFenDessin* feuille = editeur.Montre(debut);
   TFenDessin::nCV = k;
   TFenDessin::pEltCourant2 = debut;
   TFenDessin::pEltCourant = fin;
   feuille->Trt_Menu(336);
-  feuille = Montre(editeur.Cadre, apres);
+  feuille = editeur.Montre(apres);
   TFenDessin::nCV = tk;
   TFenDessin::pEltCourant2 = nullptr;
   TFenDessin::pEltCourant = apres;

@@ -104,6 +104,7 @@ int Echantillon(const std::vector<std::string>& args) {
 
 int Peins(const std::vector<std::string>& args);  // cli/Peinture.cpp
 int Colle(const std::vector<std::string>& args);   // cli/Collage.cpp
+int Suit(const std::vector<std::string>& args);    // cli/Suivi.cpp
 int Exporte(const std::vector<std::string>& args);  // cli/Feuilles.cpp
 int Insere(const std::vector<std::string>& args);   // cli/Feuilles.cpp
 int Vignette(const std::vector<std::string>& args);  // cli/Vignette.cpp
@@ -133,6 +134,11 @@ const std::vector<TCommande>& Commandes() {
        "relit IN, copie les éléments FIRST à LAST du cerf-volant K, les colle après l'élément TARGET du "
        "cerf-volant TK (MODE 551 à 555, SHIFT en centièmes), écrit OUT",
        Colle},
+      {"follow", "IN K FIRST LAST DELAY OUT",
+       "relit IN, les éléments FIRST à LAST du cerf-volant K mènent ; chaque suivant de --followers A,B,... "
+       "les reprend après son dernier élément, DELAY centièmes de plus que le précédent (--mode 551 à 555, "
+       "défaut 551), écrit OUT",
+       Suit},
       {"export", "IN FIRST LAST OUT",
        "relit IN, écrit ses feuilles FIRST à LAST dans OUT comme « Enregistrer &feuilles sous... »", Exporte},
       {"insert", "IN FILE AFTER OUT",
@@ -151,7 +157,8 @@ const std::vector<TCommande>& Commandes() {
 #ifdef TRAJ_AVEC_RENDU
       {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1)",
        Rend},
-      {"print", "IN OUT.pdf", "relit IN, imprime toutes ses feuilles dans le PDF OUT.pdf (--per-page 1, 2, 4 ou 8, défaut 8)",
+      {"print", "IN OUT.pdf", "relit IN, imprime toutes ses feuilles dans le PDF OUT.pdf (--per-page 1, 2, 4 ou 8, défaut 8 ; "
+       "--pilote K : la feuille du pilote du CV K, de 1 à 6, sa trajectoire seule en couleur et annotée)",
        Imprime},
 #endif
   };

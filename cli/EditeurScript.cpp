@@ -8,6 +8,8 @@
 #include "files/Ecriture.h"
 #include "files/Lecture.h"
 #include "files/Lignes.h"
+#include "model/Document.h"
+#include "model/Elt.h"
 
 namespace {
 constexpr int LARGEUR = 880;
@@ -37,6 +39,21 @@ bool TEditeurScript::Ecrit(const std::string& chemin) {
   if (EcritFichier(chemin, TexteRoutine())) return true;
   std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", chemin.c_str());
   return false;
+}
+
+TFenDessin* TEditeurScript::Montre(TElt* e) {
+  if (Cadre.pFenDesActive != e->pFen) Cadre.TabSelChange(e->pFen->Num - 1);
+  return Cadre.pFenDesActive;
+}
+
+TElt* Element(int k, int i) {
+  return k >= 0 && k < nbCV && i >= 0 ? static_cast<TElt*>(TabLElt[k].GetPt(i)) : nullptr;
+}
+
+bool SurUneFeuille(TElt* debut, TElt* fin) {
+  for (TElt* e = debut; e != fin; e = e->GetEltSuivant())
+    if (e->pFen != fin->pFen) return false;
+  return true;
 }
 
 bool Entier(const std::string& s, int& n) {

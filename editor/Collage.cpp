@@ -43,27 +43,31 @@ void TFenDessin::Coller() {
   bd.SetupWindow();
   bd.TempsDebut = static_cast<TElt*>(Tampon->Premier())->Gett2Param();
   if (!Dialogues().Execute(bd)) return;
-  // The range lands on the current element's sheet and kite, whatever its source. This is
-  // done before the spare copy is taken, because the sheet the range was copied from may
-  // have been removed since.
+  ColleTampon(pEltCourant, pEltCourant->pFen, ParamColler.Mode, ParamColler.Decalage);
+  MiseAJourVTotale();
+  RetraceTout();
+}
+
+void TFenDessin::ColleTampon(TElt* apres, TFenDessin* feuille, int mode, int decalage) {
+  // The range lands on the given sheet, in the track of `apres`, whatever its source. This
+  // is done before the spare copy is taken, because the sheet the range was
+  // copied from may have been removed since.
   for (TNoeud* n = Tampon->Premier(); n; n = n->GetSuivant()) {
     auto* e = static_cast<TElt*>(n);
-    e->pListeCV = pEltCourant->pListeCV;
-    e->SetpFen(pEltCourant->pFen);
+    e->pListeCV = apres->pListeCV;
+    e->SetpFen(feuille);
   }
   CopiePlage(*Tampon2, static_cast<TElt*>(Tampon->Premier()), static_cast<TElt*>(Tampon->Dernier()));
   auto* premier = static_cast<TElt*>(Tampon->Premier());
   auto* dernier = static_cast<TElt*>(Tampon->Dernier());
-  const TPointf c = pEltCourant->Getp2Param();
+  const TPointf c = apres->Getp2Param();
   // The first pasted element anchors the range in time; the others keep their constraints.
   premier->Contrainte = CONTRAINTE_TEMPS;
-  premier->Sett2Param(static_cast<float>(Tronque(premier->Gett2Param() + static_cast<float>(ParamColler.Decalage))));
-  pEltCourant->pListeCV->InsereListe(*Tampon, pEltCourant->GetSuivant());
-  for (TElt* e = premier; e; e = e == dernier ? nullptr : e->GetEltSuivant()) e->Transforme(PointDebutTampon, c, ParamColler.Mode);
+  premier->Sett2Param(static_cast<float>(Tronque(premier->Gett2Param() + static_cast<float>(decalage))));
+  apres->pListeCV->InsereListe(*Tampon, apres->GetSuivant());
+  for (TElt* e = premier; e; e = e == dernier ? nullptr : e->GetEltSuivant()) e->Transforme(PointDebutTampon, c, mode);
   for (TElt* e = premier; e; e = e == dernier ? nullptr : e->GetEltSuivant()) e->OpenBD();
   std::swap(Tampon, Tampon2);
   pEltCourant2 = premier;
   pEltCourant = dernier;
-  MiseAJourVTotale();
-  RetraceTout();
 }

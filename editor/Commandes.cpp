@@ -7,6 +7,8 @@
 #include "editor/FenDessin.h"
 #include "editor/FenListe.h"
 #include "editor/MenuEditeur.h"
+#include "equipe/BDSuivre.h"
+#include "equipe/Modeles.h"
 #include "model/Document.h"
 #include "model/Elt.h"
 #include "model/Outils.h"
@@ -66,6 +68,14 @@ void TFenDessin::Trt_Menu(unsigned id) {
     case 333: Undo(); break;
     case 336: Copier(); break;
     case 337: Coller(); break;
+    case CM_SUIVRE_MENEUR:
+      if (SuivreLeMeneur()) RetraceTout();
+      break;
+    case CM_IMPRIMER_CHAQUE_PILOTE:
+      Imp.ChaquePilote = !Imp.ChaquePilote;
+      if (pFenCadre) pFenCadre->SetCoche(CM_IMPRIMER_CHAQUE_PILOTE, Imp.ChaquePilote);
+      break;
+    case CM_NOUVEAU_MODELE: NouveauModele(*this); break;
     case 301: CommandeDessin(id, "- Segment -"); break;
     case 305: CommandeDessin(id, "- Arc -"); break;
     case 309: CommandeDessin(id, "- Dérapage -"); break;

@@ -72,6 +72,10 @@ public:
   // transformed as the paste dialog says (Collage.cpp).
   void Copier();
   void Coller();
+  // The paste itself, once the dialog has answered: the buffer after `apres`, on `feuille`,
+  // moved by `mode` (551 to 555) and its first element anchored `decalage` later. The pasted
+  // range becomes the selection. No undo copy is taken and nothing is solved or repainted.
+  static void ColleTampon(TElt* apres, TFenDessin* feuille, int mode, int decalage);
 
   // The file commands (Fichiers.cpp).
   // Asks first, with unsaved changes, whether to save them.

@@ -7,6 +7,7 @@
 
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
+#include "equipe/FeuillePilote.h"
 #include "model/Document.h"
 #include "model/Outils.h"
 
@@ -16,7 +17,8 @@ void TImpression::SetNbParPage(int n) {
 
 bool TImpression::HasPage(int page) {
   // The spare last sheet is never counted.
-  if (pFenCadre) nbPages = (pFenCadre->nbFeuilles - 2) / NbParPage + 1;
+  if (pFenCadre) nbPagesRoutine = nbPages = (pFenCadre->nbFeuilles - 2) / NbParPage + 1;
+  if (ChaquePilote && nbCV > 1) nbPages = nbPagesRoutine * nbCV;
   return page >= 1 && page <= nbPages;
 }
 
@@ -71,10 +73,23 @@ void TImpression::PrintPage(int page, TRect&, unsigned) {
 
   blImpression = true;
   DC->SelectObject(TFont{"Arial", 50, 400, 1});
-  DC->TextOut(TPoint(10, 10), Entete(DateImpression(), FichierRoutine, page, nbPages));
+  // With a sheet for each pilot, the pages of one pass are numbered on their own.
+  const int kPilote = ChaquePilote ? (page - 1) / nbPagesRoutine : Pilote;
+  const int pageRoutine = ChaquePilote ? (page - 1) % nbPagesRoutine + 1 : page;
+  const bool pilote = kPilote >= 0 && kPilote < nbCV;
+  std::string entete = Entete(DateImpression(), FichierRoutine, pageRoutine, ChaquePilote ? nbPagesRoutine : nbPages);
+  if (pilote) entete += EntetePilote(kPilote);
+  DC->TextOut(TPoint(10, 10), entete);
   // The header's font stays selected while the sheets print.
-  if (pFenCadre)
-    for (int i = (page - 1) * NbParPage; i < page * NbParPage && i <= pFenCadre->nbFeuilles - 2; ++i)
+  if (pFenCadre) {
+    TCouleursPilote couleurs(pilote ? kPilote : -1);
+    const int avant = Pilote;
+    Pilote = pilote ? kPilote : -1;  // the pens read it
+    for (int i = (pageRoutine - 1) * NbParPage; i < pageRoutine * NbParPage && i <= pFenCadre->nbFeuilles - 2; ++i) {
       pFenCadre->GetFeuille(i)->Paint(*DC, true, TRect());
+      if (pilote) EtiquettesPilote(*DC, *pFenCadre->GetFeuille(i), kPilote);
+    }
+    Pilote = avant;
+  }
   blImpression = false;
 }

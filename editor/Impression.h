@@ -49,4 +49,10 @@ public:
   int My = 0;                 // top margin of the page, device units
   int NbParPage = 8;          // sheets on a page: 1, 2, 4 or 8
   int nbPages = 1;            // pages of the job
+  // With a kite's number (from 0), a sheet for its pilot: its track in its colour and twice
+  // as wide, the others in light grey, its ends labelled; -1 for the plain print.
+  int Pilote = -1;
+  // "Imprimer pour chaque pilote": the whole routine once for each kite, as above, in one job.
+  bool ChaquePilote = false;
+  int nbPagesRoutine = 1;  // pages of one pass over the routine
 };

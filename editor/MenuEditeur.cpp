@@ -6,6 +6,7 @@ constexpr TEntreeMenu Imprimer[] = {
     {257, "&2 x 1"},
     {258, "2 &x 2"},
     {259, "&4 x 2"},
+    {CM_IMPRIMER_CHAQUE_PILOTE, "Imprimer pour chaque &pilote"},
 };
 
 constexpr TEntreeMenu Fichier[] = {
@@ -24,6 +25,7 @@ constexpr TEntreeMenu Fichier[] = {
     {255, "&Mise en page..."},
     {0, nullptr},
     {CM_NOUVEAU, "&Nouveau", {}, "Ctrl+N"},
+    {CM_NOUVEAU_MODELE, "&Nouveau d'après un modèle..."},
     {CM_FICHIERS_RECENTS, "Fichiers &récents"},
     {0, nullptr},
     {CM_QUITTER, "&Quitter", {}, "Ctrl+Q"},
@@ -56,6 +58,7 @@ constexpr TEntreeMenu Edition[] = {
     {0, nullptr},
     {336, "&Copier", {}, "Ctrl+C"},
     {337, "Co&ller...", {}, "Ctrl+V"},
+    {CM_SUIVRE_MENEUR, "Suivre le &meneur..."},
     {0, nullptr},
     {338, "&Insérer une feuille"},
     {339, "&Supprimer une feuille"},

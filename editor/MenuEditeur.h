@@ -12,11 +12,15 @@ std::span<const TGadgetBarre> BarreEditeur();
 
 inline constexpr unsigned GADGET_SYNCHRO = 4;
 inline constexpr int CARACTERES_GADGET_SYNCHRO = 5;
-inline constexpr int CARACTERES_GADGET_POSITION = 10;
-inline constexpr const char* BULLE_GADGET_POSITION = "Position de la souris sur la feuille : x , y";
+inline constexpr int CARACTERES_GADGET_POSITION = 24;  // "x , y" and the pilots' notation
+inline constexpr const char* BULLE_GADGET_POSITION = "Position de la souris sur la feuille : x , y, puis côté et hauteur comme les pilotes";
 // The commands whose menu item carries a check mark.
 inline constexpr unsigned CM_MAJ_PERMANENTE = 332;
 inline constexpr unsigned CM_MAJ_PARTIELLE = 334;
+// Team figures.
+inline constexpr unsigned CM_SUIVRE_MENEUR = 620;
+inline constexpr unsigned CM_IMPRIMER_CHAQUE_PILOTE = 621;  // carries a check mark
+inline constexpr unsigned CM_NOUVEAU_MODELE = 622;
 
 // Commands a modern editor is expected to have, after the menu's first entries.
 inline constexpr unsigned CM_NOUVEAU = 262;

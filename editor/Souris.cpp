@@ -9,6 +9,7 @@
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
 #include "editor/FenListe.h"
+#include "equipe/Notation.h"
 #include "model/Document.h"
 #include "model/Elt.h"
 #include "model/Outils.h"
@@ -319,7 +320,9 @@ void TFenDessin::EvMouseMove(unsigned, const TPoint& p) {
   // Within the same whole unit nothing at all happens.
   if (position == DernierePosition) return;
   DernierePosition = position;
-  if (pFenCadre) pFenCadre->SetTextePosition(std::to_string(position.x) + " , " + std::to_string(position.y));
+  if (pFenCadre)
+    pFenCadre->SetTextePosition(std::to_string(position.x) + " , " + std::to_string(position.y) + "   " +
+                                NotationPilote(TPointf(position)));
 
   if (EstFonctionDessin(Fonction)) {
     if (Etape == 2) {

@@ -10,6 +10,7 @@ class TBD_Coller;
 class TBD_Feuille;
 class TBD_InsererFic;
 class TBD_Securite;
+class TBD_Suivre;
 
 // EnregistrerAbandonnerAnnuler: "Enregistrer" answers Oui, "Ne pas enregistrer" Non.
 enum class TBoutons { OK, OKAnnuler, OuiNon, OuiNonAnnuler, EnregistrerAbandonnerAnnuler };
@@ -56,6 +57,7 @@ public:
   virtual bool Execute(TBD_Feuille&) { return false; }
   virtual bool Execute(TBD_InsererFic&) { return false; }
   virtual bool Execute(TBD_Securite&) { return false; }
+  virtual bool Execute(TBD_Suivre&) { return false; }
 };
 
 // Answers every box with its first button and writes what it was asked to standard error:

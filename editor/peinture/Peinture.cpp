@@ -13,7 +13,11 @@ bool EnImpression() { return TFenDessin::Imp.blImpression; }
 bool Surligne(const TElt& e, bool selection) { return selection || &e == TFenDessin::pEltCourant; }
 
 TPen PlumeLigne(const TElt& e, bool surligne) {
-  if (EnImpression()) return TPen{e.GetCouleur(), 4, TPen::Style::Plein};
+  if (EnImpression()) {
+    // A pilot's own track stands out on his sheet.
+    const bool pilote = e.pListeCV && e.pListeCV->Num == TFenDessin::Imp.Pilote;
+    return TPen{e.GetCouleur(), pilote ? 8 : 4, TPen::Style::Plein};
+  }
   return TPen{e.GetCouleur(), 0, surligne ? TPen::Style::Pointille : TPen::Style::Plein};
 }
 

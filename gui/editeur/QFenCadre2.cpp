@@ -152,7 +152,11 @@ void QFenCadre2::CreeMenu() {
     for (const TEntreeMenu& entree : deroulant.Entrees) {
       if (!entree.SousMenu.empty()) {
         QMenu* sous = menu->addMenu(QString::fromUtf8(entree.Texte));
-        for (const TEntreeMenu& e : entree.SousMenu) sous->addAction(NouvelleAction(e.Id, e.Texte, e.Raccourci));
+        for (const TEntreeMenu& e : entree.SousMenu) {
+          QAction* a = NouvelleAction(e.Id, e.Texte, e.Raccourci);
+          a->setCheckable(e.Id == CM_IMPRIMER_CHAQUE_PILOTE);
+          sous->addAction(a);
+        }
       } else if (entree.Id == CM_FICHIERS_RECENTS) {
         recents_ = menu->addMenu(QString::fromUtf8(entree.Texte));
         recents_->setObjectName(QStringLiteral("fichiersRecents"));
@@ -263,7 +267,7 @@ void QFenCadre2::Textes() {
   setWindowTitle(QString::fromStdString(cadre_.GetTitre()) + QStringLiteral("[*]"));
   position_->setText(QString::fromStdString(cadre_.GetTextePosition()));
   if (synchro_) synchro_->setText(QString::fromStdString(cadre_.GetTexteGadgetSynchro()));
-  for (unsigned id : {CM_MAJ_PERMANENTE, CM_MAJ_PARTIELLE})
+  for (unsigned id : {CM_MAJ_PERMANENTE, CM_MAJ_PARTIELLE, CM_IMPRIMER_CHAQUE_PILOTE})
     if (QAction* a = Action(id)) a->setChecked(cadre_.GetCoche(static_cast<int>(id)));
 }
 

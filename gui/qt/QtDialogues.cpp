@@ -5,6 +5,7 @@
 #include "gui/editeur/QBoiteFeuille.h"
 #include "gui/editeur/QBoiteInsererFic.h"
 #include "gui/securite/QBoiteSecurite.h"
+#include "gui/equipe/QBoiteSuivre.h"
 
 #include <QApplication>
 #include <QDir>
@@ -190,6 +191,8 @@ bool TQtDialogues::MiseEnPage(TDonneesImprimante& donnees) {
 
 // Each box judges its own OK and stays open while its TBD refuses it.
 bool TQtDialogues::Execute(TBD_Coller& bd) { return QBoiteColler(bd, parent_).exec() == QDialog::Accepted; }
+
+bool TQtDialogues::Execute(TBD_Suivre& bd) { return QBoiteSuivre(bd, parent_).exec() == QDialog::Accepted; }
 
 bool TQtDialogues::Execute(TBD_Feuille& bd) { return QBoiteFeuille(bd, parent_).exec() == QDialog::Accepted; }
 

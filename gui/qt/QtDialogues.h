@@ -38,6 +38,7 @@ public:
   bool Impression(TDonneesImprimante& donnees) override;
   bool MiseEnPage(TDonneesImprimante& donnees) override;
   bool Execute(TBD_Coller& bd) override;
+  bool Execute(TBD_Suivre& bd) override;
   bool Execute(TBD_Feuille& bd) override;
   bool Execute(TBD_InsererFic& bd) override;
   bool Execute(TBD_Securite& bd) override;

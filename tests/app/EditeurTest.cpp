@@ -18,9 +18,13 @@
 #include "gui/editeur/QBoiteFeuille.h"
 #include "gui/editeur/QBoiteInsererFic.h"
 #include "gui/editeur/QFeuille.h"
+#include "gui/equipe/QBoiteSuivre.h"
+#include "editor/MenuEditeur.h"
 #include "support/Attendu.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QSpinBox>
 #include <QApplication>
 #include <QPushButton>
 #include <QFileDialog>
@@ -271,6 +275,44 @@ TEST_F(EditeurTest, APasteWithAMirrorChosenInTheDialogIsTheCompanionsPaste) {
   app->Editeur()->Action(250)->trigger();
   ASSERT_TRUE(Compagnon("paste coller-source.rou 0 1 2 0 3 553 250 compagnon.rou"));
   EXPECT_EQ(LitTout(routine), LitTout(dossier / "compagnon.rou"));
+}
+
+// A range of kite 0 led, kites 2 and 3 ticked in the real "Suivre le meneur" dialog: what the
+// window saves is what the companion's follow writes, and one undo takes it all back.
+TEST_F(EditeurTest, FollowersChosenInTheDialogAreTheCompanionsFollow) {
+  const char* const texte = "TEAM   1 \n"
+                            "POINT\t0\t0\t2\t1\t0\t-80\t20\t0.4\n"
+                            "SEGMENT\t0\t1\t2\t1\t300\t-30\t20\t0.4\n"
+                            "SEGMENT\t0\t2\t3\t1\t600\t-20\t50\t0.4\n"
+                            "SEGMENT\t0\t3\t2\t1\t900\t10\t40\t0.4\n"
+                            "POINT\t1\t4\t2\t1\t0\t-80\t80\t0.4\n"
+                            "POINT\t2\t5\t2\t1\t0\t80\t80\t0.4\n";
+  const fs::path routine = Routine("suivre", texte);
+  app->Ouvre(routine.string());
+  ASSERT_TRUE(AttendQue([&] { return feuille->Feuille()->EchelleX != 0; }));
+  Clique(-30, 20);
+  CliqueMaj(-20, 50);
+  Pilote<QBoiteSuivre>([](QBoiteSuivre* b) {
+    // On the box itself, as for a radio button.
+    for (const char* nom : {"suiveur2", "suiveur3"}) {
+      auto* c = b->findChild<QCheckBox*>(QString::fromUtf8(nom));
+      ASSERT_NE(c, nullptr) << nom;
+      QStyleOptionButton option;
+      option.initFrom(c);
+      QTest::mouseClick(c, Qt::LeftButton, {}, c->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, c).center());
+    }
+    Tape(b->findChild<QSpinBox*>(QStringLiteral("delai"))->findChild<QLineEdit*>(), "120");
+    Bouton(b, QDialogButtonBox::Ok);
+  });
+  app->Editeur()->Action(CM_SUIVRE_MENEUR)->trigger();
+  EXPECT_EQ(TabLElt[1].nbNoeud(), 3);
+  EXPECT_EQ(TabLElt[2].nbNoeud(), 3);
+  app->Editeur()->Action(250)->trigger();
+  ASSERT_TRUE(Compagnon("follow suivre-source.rou 0 1 2 120 compagnon.rou --followers 1,2"));
+  EXPECT_EQ(LitTout(routine), LitTout(dossier / "compagnon.rou"));
+  app->Editeur()->Action(333)->trigger();
+  EXPECT_EQ(TabLElt[1].nbNoeud(), 1);
+  EXPECT_EQ(TabLElt[2].nbNoeud(), 1);
 }
 
 // Four sheets, two kites, a father on kite 0 and its child on kite 1, on sheets 2 and 3.

@@ -1,6 +1,6 @@
 // Printing the sheets on a recording device: the printer's defaults, pages, sheet sizes,
 // header, dialog and failures. The cases of tests/data/impression/ are NAME.args ("ROUTINE
-// SHEETS_A_PAGE [paysage]") and NAME.attendu, the journal of every page with the place each
+// SHEETS_A_PAGE [paysage] [pilote K | chaque_pilote]") and NAME.attendu, the journal of every page with the place each
 // sheet takes on it; TRAJ_REGENERE=1 rewrites the expected files.
 #include <gtest/gtest.h>
 
@@ -264,12 +264,20 @@ class ImpressionCas : public ImpressionTest, public ::testing::WithParamInterfac
 
 TEST_P(ImpressionCas, EveryPageAsExpected) {
   std::ifstream args(Dossier / (GetParam() + ".args"));
-  std::string routine, sens;
+  std::string routine;
   int parPage = 0;
-  args >> routine >> parPage >> sens;
-  ASSERT_GT(parPage, 0) << GetParam() << ".args : ROUTINE FEUILLES_PAR_PAGE [paysage]";
+  args >> routine >> parPage;
+  ASSERT_GT(parPage, 0) << GetParam() << ".args : ROUTINE FEUILLES_PAR_PAGE [paysage] [pilote K | chaque_pilote]";
   Ouvre(routine);
-  if (sens == "paysage") {
+  bool paysage = false;
+  for (std::string mot; args >> mot;) {
+    if (mot == "paysage") paysage = true;
+    if (mot == "chaque_pilote") TFenDessin::Imp.ChaquePilote = true;
+    if (mot == "pilote") {
+      ASSERT_TRUE(args >> TFenDessin::Imp.Pilote) << GetParam();
+    }
+  }
+  if (paysage) {
     TFenDessin::Printer->GetDonnees().Paysage = true;
     peripherique.Taille = TSize{3508, 2480};
   }

@@ -165,7 +165,9 @@ TEST(Donnees, LeGenerateurRefaitExactementLesDonneesLivrees) {
   fs::remove_all(tmp);
   ASSERT_EQ(std::system(("\"" TRAJ_GENERATEUR "\" \"" + tmp.string() + "\"").c_str()), 0);
   std::set<std::string> livres, generes;
-  for (const auto& e : fs::directory_iterator(TRAJ_DATA)) livres.insert(e.path().filename().string());
+  // The ready-made routines in data/modeles/ are written by hand, not by the generator.
+  for (const auto& e : fs::directory_iterator(TRAJ_DATA))
+    if (e.is_regular_file()) livres.insert(e.path().filename().string());
   for (const auto& e : fs::directory_iterator(tmp)) generes.insert(e.path().filename().string());
   EXPECT_EQ(generes.size(), 31u);
   EXPECT_EQ(livres, generes);
