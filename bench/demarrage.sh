@@ -23,7 +23,8 @@ export XDG_CONFIG_HOME=$scratch/config XDG_STATE_HOME=$scratch/state HOME=$scrat
 nue=$build/bench/trajectoires_bench_fenetre_nue
 application=$build/app/trajectoires
 
-# One start: prints "ms kB". $1 is the window's title (a regular expression), the rest the command.
+# One start: prints "ms kB", or nothing when the window never came (within 30 s). $1 is the
+# window's title (a regular expression), the rest the command.
 mesure() {
   local titre=$1
   shift
@@ -31,7 +32,15 @@ mesure() {
   debut=$(date +%s%N)
   /usr/bin/time -f "%M" -o "$scratch/rss" "$@" >/dev/null 2>&1 &
   pid=$!
-  until xdotool search --onlyvisible --name "$titre" >/dev/null 2>&1; do sleep 0.002; done
+  until xdotool search --onlyvisible --name "$titre" >/dev/null 2>&1; do
+    if ! kill -0 "$pid" 2>/dev/null || [ "$(date +%s%N)" -gt $((debut + 30000000000)) ]; then
+      echo "$* : pas de fenêtre « $titre »" >&2
+      pkill -TERM -P "$pid" || true
+      wait "$pid" 2>/dev/null || true
+      return
+    fi
+    sleep 0.002
+  done
   fin=$(date +%s%N)
   sleep "$delai"
   # GNU time's child: ended by SIGTERM, time still writes its report.
@@ -51,6 +60,7 @@ for _ in $(seq "$fois"); do
       nue-gl) r=$(mesure '^fenetre-nue-gl$' "$nue" gl) ;;
       application) r=$(mesure 'Trajectoires' "$application") ;;
     esac
+    [ -n "$r" ] || continue
     ms[$nom]+="${r% *} "
     kb[$nom]+="${r#* } "
   done
@@ -58,7 +68,7 @@ done
 
 printf "%-28s %12s %16s    (%s)\n" programme "carte (ms)" "pic mémoire (Mo)" "médianes de $fois"
 for nom in "${noms[@]}"; do
-  m=$(tr ' ' '\n' <<<"${ms[$nom]}" | grep . | mediane)
-  k=$(tr ' ' '\n' <<<"${kb[$nom]}" | grep . | mediane)
+  m=$(tr ' ' '\n' <<<"${ms[$nom]:-}" | { grep . || true; } | mediane)
+  k=$(tr ' ' '\n' <<<"${kb[$nom]:-0}" | { grep . || true; } | mediane)
   printf "%-28s %12s %16s    ms: %s\n" "$nom" "$m" "$((k / 1024))" "${ms[$nom]}"
 done

@@ -236,6 +236,8 @@ TEST_F(LecteurTest, SceneSwitchesReachTheSceneAndAreRememberedByTheNextRun) {
     s.setValue(QStringLiteral("scene/dureeTraines"), -7);
     s.setValue(QStringLiteral("scene/camera"), 12);
     s.setValue(QStringLiteral("scene/sol"), QStringList{QStringLiteral("x"), QStringLiteral("y")});
+    s.setValue(QStringLiteral("scene/fenetre"), 2);
+    s.setValue(QStringLiteral("scene/lignes"), QStringLiteral("oui"));
   }
   ReinitialiseDocument();
   Demarre();
