@@ -39,14 +39,17 @@ void TApp::Demarre() {
   dialogues_.SetBarreStatut(editeur_->statusBar());
   dialogues_.SetZoneCurseur(editeur_->Feuille());
   SetSon(&son_);
-  lecteur_ = std::make_unique<QFenCadre>();
-  SetRendu(&lecteur_->Vue()->Rendu());
   // The document as the editor starts: nothing to lose yet.
   MarqueIntact();
   suivi_ = std::make_unique<QSuiviModification>();
   SuitFichiersRecents();
   recuperation_ = std::make_unique<QRecuperation>();
   editeur_->show();
+  // The editor reaches the screen before the player's OpenGL is set up, which a software
+  // rasteriser makes long; the player's picture is the same.
+  QGuiApplication::sync();
+  lecteur_ = std::make_unique<QFenCadre>();
+  SetRendu(&lecteur_->Vue()->Rendu());
   lecteur_->show();
 }
 

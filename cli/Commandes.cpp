@@ -155,7 +155,8 @@ const std::vector<TCommande>& Commandes() {
        "cherchées aussi dans le dossier de IN)",
        Vignette},
 #ifdef TRAJ_AVEC_RENDU
-      {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1)",
+      {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1 ; "
+       "--traines [S], --lignes, --sol, --fenetre, --camera public|pilotes|juge)",
        Rend},
       {"print", "IN OUT.pdf", "relit IN, imprime toutes ses feuilles dans le PDF OUT.pdf (--per-page 1, 2, 4 ou 8, défaut 8 ; "
        "--pilote K : la feuille du pilote du CV K, de 1 à 6, sa trajectoire seule en couleur et annotée)",

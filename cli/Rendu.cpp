@@ -18,6 +18,8 @@
 #include "gui/gl/RenduGL.h"
 #include "gui/gl/ServeurX.h"
 #include "platform/Types.h"
+#include "scene/Instant.h"
+#include "scene/OptionsScene.h"
 #include "gui/gl/SurfaceHorsEcran.h"
 
 namespace {
@@ -37,13 +39,17 @@ bool LitTaille(const std::string& texte, int& largeur, int& hauteur) {
 }
 
 int Usage(const char* pourquoi) {
-  std::fprintf(stderr, "trajectoires-cli : %s ; render IN T OUT.png [--size LxH] [--team N] (voir --help)\n",
+  std::fprintf(stderr, "trajectoires-cli : %s ; render IN T OUT.png [--size LxH] [--team N] [--traines [S]] [--lignes] [--sol] [--fenetre] [--camera public|pilotes|juge] (voir --help)\n",
                pourquoi);
   return 2;
 }
 }  // namespace
 
-int Rend(const std::vector<std::string>& args) {
+int Rend(const std::vector<std::string>& arguments) {
+  std::vector<std::string> args = arguments;
+  TOptionsScene options;
+  std::string pourquoi;
+  if (!PrendOptionsScene(args, options, pourquoi)) return Usage(pourquoi.c_str());
   std::vector<std::string> positionnels;
   int largeur = 800, hauteur = 400, equipe = 1;
   for (std::size_t i = 0; i < args.size(); ++i) {
@@ -99,11 +105,7 @@ int Rend(const std::vector<std::string>& args) {
       if (static_cast<float>(t) >= scene->tFin)
         std::fprintf(stderr, "trajectoires-cli : T = %d est après la fin (%d) : image au temps 0\n", t,
                      static_cast<int>(scene->tFin));
-      // Held at T as the player's "back to the start" holds it.
-      scene->tDebut = t;
-      scene->Mode = MODE_DEBUT;
-      TD3DDemo::_Debut = true;
-      scene->Go();
+      DessineInstant(*scene, t, options);
       if (surface.Image().isNull() || !surface.Image().save(QString::fromStdString(positionnels[2]), "PNG")) {
         std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", positionnels[2].c_str());
         code = 1;

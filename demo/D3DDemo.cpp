@@ -6,10 +6,16 @@
 #include <filesystem>
 
 #include "demo/Journal.h"
+#include "model/ListeCV.h"
 #include "platform/Dialogues.h"
 #include "platform/Donnees.h"
 #include "platform/Horloge.h"
 #include "platform/Son.h"
+#include "scene/Cameras.h"
+#include "scene/Decor.h"
+#include "scene/Pilotes.h"
+#include "scene/Traine.h"
+#include "securite/Reglages.h"
 
 bool TD3DDemo::_Debut = true;
 bool TD3DDemo::MusiqueEnCours = false;
@@ -138,13 +144,94 @@ bool TD3DDemo::ChargerFrameCV(int i, TIdCadre* pCadre, int Team_) {
 void TD3DDemo::PlaceSoleil() { Rendu.OrienteCadre(Soleil, {{SoleilX, 0, 0.7f}, {0, 1.0f, 0}}); }
 
 void TD3DDemo::PlaceCamera() {
-  // The camera orbits the vertical axis, level, at its distance, looking through the axis.
-  CameraX = -DistanceCamera * std::sin(AngleCamera);
-  CameraZ = -DistanceCamera * std::cos(AngleCamera);
-  Rendu.PlaceCadre(Vue, {CameraX, CameraY, CameraZ});
-  DirX = std::sin(AngleCamera);
-  DirZ = std::cos(AngleCamera);
-  Rendu.OrienteCadre(Vue, {{DirX, 0, DirZ}, {0, 1.0f, 0}});
+  // The camera chosen, with the player's moves: turned about the vertical axis, at its
+  // distance, at its height.
+  const TPoseCamera pose = PoseCamera(Options.Camera, ReglagesSecurite, AngleCamera, DistanceCamera, CameraY);
+  CameraX = pose.Position.x;
+  CameraZ = pose.Position.z;
+  DirX = pose.Direction.x;
+  DirZ = pose.Direction.z;
+  Rendu.PlaceCadre(Vue, pose.Position);
+  Rendu.OrienteCadre(Vue, {pose.Direction, {0, 1.0f, 0}});
+  Rendu.ChampVue(pose.DemiChamp);
+}
+
+void TD3DDemo::SegmentSecurite(const TVecteur3& a, const TVecteur3& b) {
+  const auto egal = [](const TVecteur3& u, const TVecteur3& v) { return u.x == v.x && u.y == v.y && u.z == v.z; };
+  if (Securite && egal(Securite->first, a) && egal(Securite->second, b)) return;
+  Securite = std::make_pair(a, b);
+  SecuriteChangee = true;
+}
+
+void TD3DDemo::SansSegmentSecurite() {
+  SecuriteChangee = SecuriteChangee || Securite.has_value();
+  Securite.reset();
+}
+
+namespace {
+// Widths in pixels of a picture 800 across.
+constexpr float LARGEUR_TRAINE = 4, LARGEUR_LIGNE = 1, LARGEUR_PILOTE = 2, LARGEUR_FENETRE = 1.5f,
+                LARGEUR_SECURITE = 3;
+constexpr TSommetTrait Sommet(const TVecteur3& p, float r, float g, float b, float a) { return {p, r, g, b, a}; }
+}  // namespace
+
+void TD3DDemo::PoseDecor() {
+  // The camera and the trails' length move none of the fixed strokes.
+  const bool fixes = !DecorPose || DecorPose->Lignes != Options.Lignes || DecorPose->Sol != Options.Sol ||
+                     DecorPose->Fenetre != Options.Fenetre;
+  if (fixes) {
+    std::vector<TSommetTrait> fenetre, pilotes;
+    if (Options.Fenetre) {
+      const std::vector<TVecteur3> traits = TraitsFenetre();
+      // The edge a little stronger than the quarter lines, both faint against the sky.
+      for (std::size_t k = 0; k < traits.size(); ++k)
+        fenetre.push_back(Sommet(traits[k], 1, 1, 1, k < 8 ? 0.55f : 0.3f));
+    }
+    if (Options.Lignes)
+      for (int i = 0; i < nbCV && i < NB_CV_MAX; ++i)
+        for (const TVecteur3& p : SilhouettePilote(PositionPilote(i, nbCV, ReglagesSecurite), ReglagesSecurite))
+          pilotes.push_back(Sommet(p, 0.12f, 0.12f, 0.14f, 1));
+    Rendu.PoseTraits(TGenreTraits::Fenetre, fenetre, LARGEUR_FENETRE);
+    Rendu.PoseTraits(TGenreTraits::Pilotes, pilotes, LARGEUR_PILOTE);
+    Rendu.MontreSol(Options.Sol);
+  }
+  const float t = static_cast<float>(tCourant);
+  if (fixes || t != tDecor || Arriere != ArrierePose || DecorPose->Traines != Options.Traines) {
+    std::vector<TSommetTrait> lignes, traines;
+    for (int i = 0; i < nbCV && i < NB_CV_MAX; ++i) {
+      const TTrajectoire& trajectoire = Trajectoires[i];
+      if (Modeles[i] == CADRE_AUCUN || trajectoire.Positions.IsVide()) continue;
+      if (Options.Lignes) {
+        const TPaire mains = MainsPilote(PositionPilote(i, nbCV, ReglagesSecurite), ReglagesSecurite);
+        const TPaire bouts = BoutsAiles(trajectoire.Positions.Echantillonne(t), trajectoire.Orientations.Echantillonne(t));
+        for (const TVecteur3& p : {mains.Gauche, bouts.Gauche, mains.Droite, bouts.Droite})
+          lignes.push_back(Sommet(p, 0.08f, 0.08f, 0.1f, 0.9f));
+      }
+      if (Options.Traines > 0) {
+        const TColor c = TabLElt[i].Couleur;
+        const float r = static_cast<float>(c.Red()) / 255, g = static_cast<float>(c.Green()) / 255,
+                    b = static_cast<float>(c.Blue()) / 255;
+        const std::vector<TPointTraine> points =
+            PointsTraine(trajectoire.Positions, t, static_cast<float>(Options.Traines * 100), Arriere);
+        for (std::size_t k = 1; k < points.size(); ++k) {
+          traines.push_back(Sommet(points[k - 1].P, r, g, b, points[k - 1].Opacite));
+          traines.push_back(Sommet(points[k].P, r, g, b, points[k].Opacite));
+        }
+      }
+    }
+    Rendu.PoseTraits(TGenreTraits::Lignes, lignes, LARGEUR_LIGNE);
+    Rendu.PoseTraits(TGenreTraits::Traines, traines, LARGEUR_TRAINE);
+    tDecor = t;
+    ArrierePose = Arriere;
+  }
+  if (fixes || SecuriteChangee) {
+    std::vector<TSommetTrait> rouge;
+    if (Securite)
+      for (const TVecteur3& p : {Securite->first, Securite->second}) rouge.push_back(Sommet(p, 0.9f, 0, 0, 1));
+    Rendu.PoseTraits(TGenreTraits::Securite, rouge, LARGEUR_SECURITE);
+    SecuriteChangee = false;
+  }
+  DecorPose = Options;
 }
 
 void TD3DDemo::Go() {
@@ -234,6 +321,17 @@ void TD3DDemo::Go() {
     PlusProche = paire;
   else
     PlusProche.reset();
+  // The closest two kites, joined in red while they are closer than the designer allows.
+  if (Options.Securite && PlusProche && TropProche(PlusProche->Centimetres, ReglagesSecurite))
+    SegmentSecurite(PlusProche->P1, PlusProche->P2);
+  else
+    SansSegmentSecurite();
+  // The trails look the way the kites are going: back along the flight in backward play.
+  if (Mode == MODE_ARRIERE || Mode == MODE_APRES_PAS_ARRIERE)
+    Arriere = true;
+  else if (Mode == MODE_AVANT || Mode == MODE_APRES_PAS_AVANT)
+    Arriere = false;
+  PoseDecor();
   PlaceSoleil();
   PlaceCamera();
   if (long res = Rendu.Dessine(Monde)) return DXERROR_Direct3DRM(FichierJournal(), 2, res);

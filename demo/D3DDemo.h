@@ -9,6 +9,7 @@
 #include "model/Document.h"
 #include "platform/Rendu.h"
 #include "securite/Controle.h"
+#include "scene/OptionsScene.h"
 
 // Playback modes.
 enum TModeLecture : int {
@@ -56,7 +57,13 @@ public:
     DistanceCamera = 215.0f;
   }
 
+  // The safety checks' finding for this frame: the closest pair under the threshold, joined
+  // by a red line from the next Go on, until told again; none hides it.
+  void SegmentSecurite(const TVecteur3& a, const TVecteur3& b);
+  void SansSegmentSecurite();
+
   float SoleilX, CameraX, CameraY, CameraZ, DirX, DirZ, AngleCamera, DistanceCamera;
+  TOptionsScene Options;  // what the picture shows beyond the kites and the clouds
   int Periode = 10;  // ms of clock for 1/100 s of routine: 10 is real time
   int tDebut = 0;
   int Mode = MODE_AVANT;
@@ -76,6 +83,9 @@ public:
 
 private:
   void PlaceCamera();
+  // Trails, pilots, lines, the window, the ground and the safety line, each sent to the
+  // renderer only when it changed since the last frame.
+  void PoseDecor();
   void PlaceSoleil();
 
   TRendu& Rendu;
@@ -83,6 +93,12 @@ private:
   TIdCadre Vue = CADRE_AUCUN;
   TIdCadre Soleil = CADRE_AUCUN;
   TIdCadre Modeles[NB_CV_MAX] = {CADRE_AUCUN, CADRE_AUCUN, CADRE_AUCUN, CADRE_AUCUN, CADRE_AUCUN, CADRE_AUCUN};
+  std::optional<TOptionsScene> DecorPose;  // the options the fixed strokes were sent for
+  float tDecor = -1;                       // the time the moving strokes were sent for
+  bool Arriere = false;                    // the trails follow backward play
+  bool ArrierePose = false;
+  std::optional<std::pair<TVecteur3, TVecteur3>> Securite;
+  bool SecuriteChangee = false;
   const char* FichierJournal();
   std::string Journal;  // where failed calls are logged
 

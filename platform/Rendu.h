@@ -5,6 +5,7 @@
 // call returns 0 on success or a failure code of the renderer (platform/ErreursRendu.h),
 // which the scene writes to its log; the scene never draws by itself.
 #include <string>
+#include <vector>
 
 #include "platform/Types.h"
 
@@ -20,6 +21,16 @@ struct TVecteur3 {
 struct TOrientation {
   TVecteur3 Z{0, 0, 1};
   TVecteur3 Y{0, 1, 0};
+};
+
+// What the scene draws beyond its models, each kind kept by the renderer in a buffer of its
+// own and sent again only when it moved.
+enum class TGenreTraits : int { Fenetre, Pilotes, Lignes, Traines, Securite };
+inline constexpr int NB_GENRES_TRAITS = 5;
+
+struct TSommetTrait {
+  TVecteur3 P;
+  float r = 0, g = 0, b = 0, a = 1;  // colour and opacity, 0 to 1
 };
 
 class TRendu {
@@ -53,6 +64,16 @@ public:
   virtual long Efface() = 0;
   virtual long Dessine(TIdCadre racine) = 0;
   virtual long Affiche() = 0;
+
+  // The strokes of one kind, pairs of vertices, each stroke `largeur` pixels wide in a
+  // picture 800 pixels across (in proportion in others), drawn over the models with the
+  // opacity of its vertices; an empty list draws nothing of that kind. A renderer that
+  // draws no more than the models may take them and draw nothing.
+  virtual long PoseTraits(TGenreTraits, const std::vector<TSommetTrait>&, float /*largeur*/) { return 0; }
+  // The tangent of the camera's horizontal half-angle of view, 0.5 until told.
+  virtual long ChampVue(float) { return 0; }
+  // A ground plane at y = 0, under the scene.
+  virtual long MontreSol(bool) { return 0; }
 };
 
 // Draws nothing and fails at nothing: the scene of a program that has no window, such as

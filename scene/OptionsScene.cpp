@@ -34,6 +34,8 @@ bool PrendOptionsScene(std::vector<std::string>& args, TOptionsScene& options, s
       }
     } else if (a == "--lignes") {
       options.Lignes = true;
+    } else if (a == "--alertes") {
+      options.Securite = true;
     } else if (a == "--sol") {
       options.Sol = true;
     } else if (a == "--fenetre") {

@@ -12,12 +12,15 @@ struct TOptionsScene {
   bool Sol = false;      // the ground plane
   bool Fenetre = false;  // the wind window's edge and quarter lines
   TCamera Camera = TCamera::Public;
+  // The two closest kites joined by a red line while closer than the safety distance: always
+  // in the player, in pictures and films when asked.
+  bool Securite = false;
   bool operator==(const TOptionsScene&) const = default;
 };
 
 inline constexpr double TRAINES_DEFAUT = 3.0;
 
 // Reads the scene's options among a command's arguments: `--traines [S]`, `--lignes`, `--sol`,
-// `--fenetre`, `--camera public|pilotes|juge`. Each one it knows is taken out of `args`; the
+// `--fenetre`, `--camera public|pilotes|juge`, `--alertes`. Each one it knows is taken out of `args`; the
 // others stay, in order. False, with `erreur` set (French), on a bad value.
 bool PrendOptionsScene(std::vector<std::string>& args, TOptionsScene& options, std::string& erreur);

@@ -23,6 +23,16 @@ constexpr TEntreeMenu Scene[] = {
     {CM_SOLEIL_GAUCHE, "Soleil G&auche"},
     {CM_SOLEIL_DROITE, "Soleil D&roite"},
     {CM_REGLAGES_DEFAUT, "&Réglages par défaut"},
+    {0, nullptr},
+    {CM_TRAINES, "&Traînées"},
+    {CM_DUREE_TRAINES, "D&urée des traînées"},
+    {CM_LIGNES, "Pilotes et &lignes"},
+    {CM_SOL, "S&ol"},
+    {CM_FENETRE, "&Fenêtre du vent"},
+    {0, nullptr},
+    {CM_CAMERA_PUBLIC, "Caméra : publi&c"},
+    {CM_CAMERA_PILOTES, "Caméra : p&ilotes"},
+    {CM_CAMERA_JUGE, "Caméra : &juge"},
 };
 
 constexpr TEntreeMenu Options[] = {

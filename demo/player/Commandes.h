@@ -30,6 +30,15 @@ enum TCommandeLecteur : unsigned {
   CM_TEAM4 = 123,
   CM_TEAM5 = 124,
   CM_TEMPS_DEBUT = 130,
+  // What the 3D picture shows beyond the kites: switches, the trails' length, the camera.
+  CM_TRAINES = 140,
+  CM_DUREE_TRAINES = 141,
+  CM_LIGNES = 142,
+  CM_SOL = 143,
+  CM_FENETRE = 144,
+  CM_CAMERA_PUBLIC = 145,  // CM_CAMERA_PUBLIC + TCamera
+  CM_CAMERA_PILOTES = 146,
+  CM_CAMERA_JUGE = 147,
 };
 
 inline constexpr int NB_TEAMS = 5;

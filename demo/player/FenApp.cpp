@@ -1,6 +1,7 @@
 #include "demo/player/FenApp.h"
 
 #include <climits>
+#include <cstdio>
 #include <cstdlib>
 
 #include "demo/D3DDemo.h"
@@ -77,7 +78,17 @@ void TFenApp::InitDemo(int nbCV_, float tFin) {
   Texte(TZoneLecteur::Message, "Lecture avant");
   AfficheEtat(*s);
   s->tDebut = tDebut;
+  s->Options = Options;
   Texte(TZoneLecteur::Debut, std::to_string(tDebut));
+  Redessine();
+}
+
+void TFenApp::SetOptions(const TOptionsScene& options, double dureeTraines) {
+  Options = options;
+  Options.Securite = true;  // the player always joins kites that come too close
+  if (dureeTraines > 0 && dureeTraines <= 60) DureeTraines = dureeTraines;
+  if (Options.Traines > 0) DureeTraines = Options.Traines;
+  if (TD3DDemo* s = SceneUtilisable()) s->Options = Options;
   Redessine();
 }
 
@@ -122,6 +133,11 @@ void TFenApp::Trt_Menu(unsigned id) {
   }
   if (id == CM_TEMPS_DEBUT) {
     SaisitDebut();
+    return;
+  }
+  // Kept with no scene too: the next one shows them.
+  if (id >= CM_TRAINES && id <= CM_CAMERA_JUGE) {
+    Affichage(id);
     return;
   }
   // With no usable scene the other commands have nothing to act on: a beep, and the
@@ -266,4 +282,32 @@ void TFenApp::SaisitDebut() {
   if (fin != texte.c_str()) tDebut = static_cast<int>(v < INT_MIN ? INT_MIN : v > INT_MAX ? INT_MAX : v);
   if (TD3DDemo* s = SceneUtilisable()) s->tDebut = tDebut;
   Texte(TZoneLecteur::Debut, std::to_string(tDebut));
+}
+
+void TFenApp::Affichage(unsigned id) {
+  switch (id) {
+    case CM_TRAINES: Options.Traines = Options.Traines > 0 ? 0 : DureeTraines; break;
+    case CM_DUREE_TRAINES: SaisitDureeTraines(); break;
+    case CM_LIGNES: Options.Lignes = !Options.Lignes; break;
+    case CM_SOL: Options.Sol = !Options.Sol; break;
+    case CM_FENETRE: Options.Fenetre = !Options.Fenetre; break;
+    default: Options.Camera = static_cast<TCamera>(id - CM_CAMERA_PUBLIC); break;
+  }
+  if (TD3DDemo* s = SceneUtilisable()) s->Options = Options;
+}
+
+void TFenApp::SaisitDureeTraines() {
+  char texte[32];
+  std::snprintf(texte, sizeof texte, "%g", DureeTraines);
+  const auto saisie = Dialogues().Saisie("durée des traînées", "Secondes de vol derrière chaque cerf-volant (au plus 60) :", texte);
+  if (!saisie) return;
+  // A length the trails can take, or a beep and nothing changed; a new length shows at once.
+  char* fin = nullptr;
+  const double d = std::strtod(saisie->c_str(), &fin);
+  if (fin == saisie->c_str() || *fin != '\0' || !(d > 0 && d <= 60)) {
+    Bip();
+    return;
+  }
+  DureeTraines = d;
+  Options.Traines = d;
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "demo/player/FenCadre.h"
+#include "scene/OptionsScene.h"
 
 class TD3DDemo;
 
@@ -40,6 +41,12 @@ public:
   // Back to their start values, with the document's.
   static void ReinitialiseStatiques();
 
+  // What the picture shows beyond the kites, given to each new scene; the trails' length is
+  // kept while they are off, so that switching them on again brings it back.
+  void SetOptions(const TOptionsScene& options, double dureeTraines);
+  const TOptionsScene& GetOptions() const { return Options; }
+  double GetDureeTraines() const { return DureeTraines; }
+
   TFenCadre* pFenCadre;
   int tDebut = 0;  // 1/100 s; survives the scenes, and each new one is given it
 
@@ -54,6 +61,11 @@ private:
   void Camera(TD3DDemo& scene, unsigned id);
   void ChoisitTeam(int team);
   void SaisitDebut();
+  void Affichage(unsigned id);
+  void SaisitDureeTraines();
+
+  TOptionsScene Options{.Securite = true};
+  double DureeTraines = TRAINES_DEFAUT;
 
   bool aRedessiner = true;
 };

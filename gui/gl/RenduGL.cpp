@@ -62,6 +62,70 @@ out vec4 couleur;
 void main() { couleur = texture(image, coord); }
 )";
 
+// Strokes: each segment becomes a band of constant width on the picture, cut at the front
+// plane first so that a line passing beside the camera keeps the part in front of it.
+const char* const SOMMETS_TRAITS = R"(#version 330 core
+layout(location = 0) in vec3 position;
+layout(location = 1) in vec4 couleur;
+uniform mat4 vueProjection;
+out vec4 couleurSommet;
+void main() {
+  couleurSommet = couleur;
+  gl_Position = vueProjection * vec4(position, 1.0);
+}
+)";
+const char* const BANDES_TRAITS = R"(#version 330 core
+layout(lines) in;
+layout(triangle_strip, max_vertices = 4) out;
+in vec4 couleurSommet[];
+out vec4 couleurTrait;
+uniform vec2 demiTaille;  // half the picture, pixels
+uniform float largeur;    // pixels
+void main() {
+  vec4 a = gl_in[0].gl_Position, b = gl_in[1].gl_Position;
+  vec4 ca = couleurSommet[0], cb = couleurSommet[1];
+  float da = a.z + a.w, db = b.z + b.w;
+  if (da < 0.0 && db < 0.0) return;
+  if (da < 0.0) { float f = da / (da - db); a = mix(a, b, f); ca = mix(ca, cb, f); }
+  else if (db < 0.0) { float f = db / (db - da); b = mix(b, a, f); cb = mix(cb, ca, f); }
+  vec2 d = (b.xy / b.w - a.xy / a.w) * demiTaille;
+  if (dot(d, d) < 1e-8) d = vec2(1.0, 0.0);
+  vec2 n = normalize(vec2(-d.y, d.x)) * (0.5 * largeur) / demiTaille;
+  gl_Position = a + vec4(n * a.w, 0.0, 0.0); couleurTrait = ca; EmitVertex();
+  gl_Position = a - vec4(n * a.w, 0.0, 0.0); couleurTrait = ca; EmitVertex();
+  gl_Position = b + vec4(n * b.w, 0.0, 0.0); couleurTrait = cb; EmitVertex();
+  gl_Position = b - vec4(n * b.w, 0.0, 0.0); couleurTrait = cb; EmitVertex();
+  EndPrimitive();
+}
+)";
+const char* const PIXELS_TRAITS = R"(#version 330 core
+in vec4 couleurTrait;
+out vec4 couleur;
+void main() { couleur = couleurTrait; }
+)";
+// The ground: a square of the plane y = 0 around the window, a pale meadow crossed by a faint
+// grid every 10 units, so that distance and slope read.
+const char* const SOMMETS_SOL = R"(#version 330 core
+uniform mat4 vueProjection;
+out vec2 sol;
+void main() {
+  const vec2 coins[6] = vec2[6](vec2(-1, -1), vec2(1, -1), vec2(1, 1), vec2(-1, -1), vec2(1, 1), vec2(-1, 1));
+  sol = coins[gl_VertexID] * 600.0;
+  gl_Position = vueProjection * vec4(sol.x, 0.0, sol.y, 1.0);
+}
+)";
+const char* const PIXELS_SOL = R"(#version 330 core
+in vec2 sol;
+out vec4 couleur;
+void main() {
+  vec2 g = abs(fract(sol / 10.0 - 0.5) - 0.5) / fwidth(sol / 10.0);
+  float trait = 1.0 - min(min(g.x, g.y), 1.0);
+  float touffes = fract(sin(dot(floor(sol * 0.5), vec2(12.9898, 78.233))) * 43758.5453);
+  vec3 pre = vec3(0.62, 0.74, 0.50) * (0.94 + 0.06 * touffes);
+  couleur = vec4(mix(pre, vec3(0.48, 0.58, 0.40), 0.6 * trait), 1.0);
+}
+)";
+
 // The front clipping plane, at the distance the camera's field of view is told for.
 constexpr float AVANT = 1.0f;
 // Tangent of the horizontal half-angle of view.
@@ -76,10 +140,17 @@ TRenduGL::~TRenduGL() {
   if (!gl_ || !surface_.Active()) return;
   for (std::size_t m = 0; m < modeles_.size(); ++m) LibereModele(static_cast<int>(m));
   if (vaoFond_) gl_->glDeleteVertexArrays(1, &vaoFond_);
+  for (TTraitsGL& t : traits_)
+    if (t.Vao) {
+      gl_->glDeleteVertexArrays(1, &t.Vao);
+      gl_->glDeleteBuffers(1, &t.Vbo);
+    }
   fond_.reset();
   image_.reset();
   programmeModele_.reset();
   programmeFond_.reset();
+  programmeTraits_.reset();
+  programmeSol_.reset();
 }
 
 long TRenduGL::Connecte() {
@@ -102,12 +173,21 @@ long TRenduGL::Connecte() {
 long TRenduGL::CompileShaders() {
   programmeModele_ = std::make_unique<QOpenGLShaderProgram>();
   programmeFond_ = std::make_unique<QOpenGLShaderProgram>();
+  programmeTraits_ = std::make_unique<QOpenGLShaderProgram>();
+  programmeSol_ = std::make_unique<QOpenGLShaderProgram>();
   const bool ok = programmeModele_->addShaderFromSourceCode(QOpenGLShader::Vertex, SOMMETS_MODELE) &&
                   programmeModele_->addShaderFromSourceCode(QOpenGLShader::Fragment, PIXELS_MODELE) &&
                   programmeModele_->link() &&
                   programmeFond_->addShaderFromSourceCode(QOpenGLShader::Vertex, SOMMETS_FOND) &&
                   programmeFond_->addShaderFromSourceCode(QOpenGLShader::Fragment, PIXELS_FOND) &&
-                  programmeFond_->link();
+                  programmeFond_->link() &&
+                  programmeTraits_->addShaderFromSourceCode(QOpenGLShader::Vertex, SOMMETS_TRAITS) &&
+                  programmeTraits_->addShaderFromSourceCode(QOpenGLShader::Geometry, BANDES_TRAITS) &&
+                  programmeTraits_->addShaderFromSourceCode(QOpenGLShader::Fragment, PIXELS_TRAITS) &&
+                  programmeTraits_->link() &&
+                  programmeSol_->addShaderFromSourceCode(QOpenGLShader::Vertex, SOMMETS_SOL) &&
+                  programmeSol_->addShaderFromSourceCode(QOpenGLShader::Fragment, PIXELS_SOL) &&
+                  programmeSol_->link();
   return ok ? 0L : long{DISPERR_SHADER};
 }
 
@@ -162,6 +242,9 @@ void TRenduGL::LibereCadre(TIdCadre cadre) {
   if (std::none_of(cadres_.begin(), cadres_.end(), [](const TCadre& f) { return f.Vivant; })) {
     cadres_.clear();
     modeles_.clear();
+    for (TTraitsGL& t : traits_) t.NbSommets = 0;
+    sol_ = false;
+    demiChamp_ = DEMI_CHAMP;
   }
 }
 
@@ -277,11 +360,11 @@ long TRenduGL::OrienteCadre(TIdCadre cadre, const TOrientation& orientation) {
   return 0;
 }
 
-QMatrix4x4 TRenduGL::Projection(int largeur, int hauteur, float profondeur) {
+QMatrix4x4 TRenduGL::Projection(int largeur, int hauteur, float profondeur, float demiChamp) {
   // Seen from the camera: x to the right, y up, z ahead. The picture's width spans a
   // half-tangent of 0.5, its height as much as its proportions give.
-  const float tx = DEMI_CHAMP;
-  const float ty = DEMI_CHAMP * static_cast<float>(hauteur) / static_cast<float>(largeur);
+  const float tx = demiChamp;
+  const float ty = demiChamp * static_cast<float>(hauteur) / static_cast<float>(largeur);
   const float n = AVANT, f = profondeur;
   return QMatrix4x4(1 / tx, 0, 0, 0,
                     0, 1 / ty, 0, 0,
@@ -322,7 +405,7 @@ long TRenduGL::Dessine(TIdCadre racine) {
   gl_->glViewport(0, 0, image_->width(), image_->height());
 
   const QMatrix4x4& poseCamera = cadres_[camera_].Pose;
-  const QMatrix4x4 vueProjection = Projection(image_->width(), image_->height(), profondeur_) *
+  const QMatrix4x4 vueProjection = Projection(image_->width(), image_->height(), profondeur_, demiChamp_) *
                                    poseCamera.inverted();
   const QVector3D lumiere =
       Existe(soleil_) ? cadres_[soleil_].Pose.column(2).toVector3D().normalized() : QVector3D();
@@ -330,6 +413,7 @@ long TRenduGL::Dessine(TIdCadre racine) {
   gl_->glEnable(GL_DEPTH_TEST);
   gl_->glDepthFunc(GL_LESS);
   gl_->glDisable(GL_CULL_FACE);
+  if (sol_) DessineSol(vueProjection);
   programmeModele_->bind();
   programmeModele_->setUniformValue("vueProjection", vueProjection);
   programmeModele_->setUniformValue("lumiere", lumiere);
@@ -344,6 +428,7 @@ long TRenduGL::Dessine(TIdCadre racine) {
   }
   gl_->glBindVertexArray(0);
   programmeModele_->release();
+  DessineTraits(vueProjection);
   return gl_->glGetError() == GL_OUT_OF_MEMORY ? long{DISPERR_MEMOIRE} : 0L;
 }
 
@@ -352,4 +437,81 @@ long TRenduGL::Affiche() {
   image_->release();
   surface_.Presente(*image_);
   return 0;
+}
+
+long TRenduGL::PoseTraits(TGenreTraits genre, const std::vector<TSommetTrait>& sommets, float largeur) {
+  const int g = static_cast<int>(genre);
+  if (g < 0 || g >= NB_GENRES_TRAITS || !(largeur > 0)) return DISPERR_PARAMETRE;
+  if (!gl_ || !surface_.Active()) return DISPERR_NONINITIALISE;
+  TTraitsGL& t = traits_[g];
+  t.Largeur = largeur;
+  t.NbSommets = static_cast<int>(sommets.size() & ~std::size_t{1});
+  if (sommets.empty()) return 0;
+  if (!t.Vao) {
+    gl_->glGenVertexArrays(1, &t.Vao);
+    gl_->glGenBuffers(1, &t.Vbo);
+    gl_->glBindVertexArray(t.Vao);
+    gl_->glBindBuffer(GL_ARRAY_BUFFER, t.Vbo);
+    const auto pas = static_cast<GLsizei>(sizeof(TSommetTrait));
+    gl_->glEnableVertexAttribArray(0);
+    gl_->glVertexAttribPointer(0, 3, GL_FLOAT, GL_FALSE, pas, reinterpret_cast<void*>(offsetof(TSommetTrait, P)));
+    gl_->glEnableVertexAttribArray(1);
+    gl_->glVertexAttribPointer(1, 4, GL_FLOAT, GL_FALSE, pas, reinterpret_cast<void*>(offsetof(TSommetTrait, r)));
+    gl_->glBindVertexArray(0);
+  }
+  gl_->glBindBuffer(GL_ARRAY_BUFFER, t.Vbo);
+  const auto octets = static_cast<GLsizeiptr>(sommets.size() * sizeof(TSommetTrait));
+  // The buffer grows when it must and is rewritten in place otherwise.
+  if (sommets.size() > t.Capacite) {
+    gl_->glBufferData(GL_ARRAY_BUFFER, octets, sommets.data(), GL_DYNAMIC_DRAW);
+    t.Capacite = sommets.size();
+  } else {
+    gl_->glBufferSubData(GL_ARRAY_BUFFER, 0, octets, sommets.data());
+  }
+  gl_->glBindBuffer(GL_ARRAY_BUFFER, 0);
+  return gl_->glGetError() == GL_OUT_OF_MEMORY ? long{DISPERR_MEMOIRE} : 0L;
+}
+
+long TRenduGL::ChampVue(float demiTangente) {
+  if (!(demiTangente > 0.05f && demiTangente < 20.0f)) return DISPERR_PARAMETRE;
+  demiChamp_ = demiTangente;
+  return 0;
+}
+
+long TRenduGL::MontreSol(bool visible) {
+  sol_ = visible;
+  return 0;
+}
+
+void TRenduGL::DessineSol(const QMatrix4x4& vueProjection) {
+  programmeSol_->bind();
+  programmeSol_->setUniformValue("vueProjection", vueProjection);
+  gl_->glBindVertexArray(vaoFond_);
+  gl_->glDrawArrays(GL_TRIANGLES, 0, 6);
+  gl_->glBindVertexArray(0);
+  programmeSol_->release();
+}
+
+void TRenduGL::DessineTraits(const QMatrix4x4& vueProjection) {
+  if (std::none_of(std::begin(traits_), std::end(traits_), [](const TTraitsGL& t) { return t.NbSommets > 0; }))
+    return;
+  // Over the models, hidden by them where they pass behind, blended with what lies under;
+  // the picture's own opacity stays whole.
+  gl_->glEnable(GL_BLEND);
+  gl_->glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
+  gl_->glDepthMask(GL_FALSE);
+  programmeTraits_->bind();
+  programmeTraits_->setUniformValue("vueProjection", vueProjection);
+  programmeTraits_->setUniformValue("demiTaille", QVector2D(image_->width() / 2.0f, image_->height() / 2.0f));
+  const float echelle = static_cast<float>(image_->width()) / 800.0f;
+  for (const TTraitsGL& t : traits_) {
+    if (t.NbSommets == 0) continue;
+    programmeTraits_->setUniformValue("largeur", std::max(t.Largeur * echelle, 1.0f));
+    gl_->glBindVertexArray(t.Vao);
+    gl_->glDrawArrays(GL_LINES, 0, t.NbSommets);
+  }
+  gl_->glBindVertexArray(0);
+  programmeTraits_->release();
+  gl_->glDepthMask(GL_TRUE);
+  gl_->glDisable(GL_BLEND);
 }

@@ -40,13 +40,16 @@ public:
   long Efface() override;
   long Dessine(TIdCadre racine) override;
   long Affiche() override;
+  long PoseTraits(TGenreTraits genre, const std::vector<TSommetTrait>& sommets, float largeur) override;
+  long MontreSol(bool visible) override;
+  long ChampVue(float demiTangente) override;
 
   // The device's picture, null while there is no device.
   QOpenGLFramebufferObject* ImageCourante() const { return image_.get(); }
 
   // The projection of the camera for a picture of that size, in the world's coordinates
   // seen from the camera: for tests and for whoever needs to know where a point lands.
-  static QMatrix4x4 Projection(int largeur, int hauteur, float profondeur);
+  static QMatrix4x4 Projection(int largeur, int hauteur, float profondeur, float demiChamp = 0.5f);
 
 private:
   struct TCadre {
@@ -60,7 +63,16 @@ private:
     int NbSommets = 0;
   };
 
+  struct TTraitsGL {
+    unsigned Vao = 0, Vbo = 0;
+    int NbSommets = 0;
+    std::size_t Capacite = 0;  // vertices the buffer holds
+    float Largeur = 1;
+  };
+
   bool Existe(TIdCadre cadre) const;
+  void DessineSol(const QMatrix4x4& vueProjection);
+  void DessineTraits(const QMatrix4x4& vueProjection);
   bool DescendDe(TIdCadre cadre, TIdCadre racine) const;
   void LibereModele(int modele);
   long CompileShaders();
@@ -72,6 +84,11 @@ private:
   std::unique_ptr<QOpenGLFramebufferObject> image_;
   std::unique_ptr<QOpenGLShaderProgram> programmeModele_;
   std::unique_ptr<QOpenGLShaderProgram> programmeFond_;
+  std::unique_ptr<QOpenGLShaderProgram> programmeTraits_;
+  std::unique_ptr<QOpenGLShaderProgram> programmeSol_;
+  TTraitsGL traits_[NB_GENRES_TRAITS];
+  bool sol_ = false;
+  float demiChamp_ = 0.5f;
   std::unique_ptr<QOpenGLTexture> fond_;
   unsigned vaoFond_ = 0;
   TIdCadre camera_ = CADRE_AUCUN;

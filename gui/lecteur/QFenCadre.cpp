@@ -5,6 +5,7 @@
 #include "demo/player/FenApp.h"
 #include "gui/qt/Cadre.h"
 #include "gui/qt/Gadgets.h"
+#include "gui/lecteur/ReglagesScene.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -22,6 +23,11 @@
 // The pictures of the buttons live in a static library: their resources must be asked for,
 // from outside any namespace, or the linker leaves them out.
 static void ChargeIcones() { Q_INIT_RESOURCE(lecteur); }
+
+namespace {
+// The menu's switches of the 3D picture, shown ticked when on.
+bool EstInterrupteur(unsigned id) { return id == CM_TRAINES || id == CM_LIGNES || id == CM_SOL || id == CM_FENETRE; }
+}  // namespace
 
 QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   ChargeIcones();
@@ -43,6 +49,9 @@ QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   for (int z = 0; z < NB_ZONES_LECTEUR; ++z)
     TexteChange(static_cast<TZoneLecteur>(z), cadre_.GetTexte(static_cast<TZoneLecteur>(z)));
   EquipeCochee(cadre_.GetEquipeCochee());
+  const TReglagesScene scene = LitReglagesScene();
+  cadre_.Client().SetOptions(scene.Options, scene.DureeTraines);
+  CocheAffichage();
   vue_->SetPeinture([this] { cadre_.Client().Paint(); });
   // After the resize has been taken in: a frame resized from inside its own resize is
   // undone by the window system's answer to the first one.
@@ -65,7 +74,13 @@ QFenCadre::~QFenCadre() { cadre_.SetVue(nullptr); }
 
 QAction* QFenCadre::NouvelleAction(unsigned id) {
   auto* a = new QAction(QString::fromUtf8(TexteCommande(id)), this);
-  connect(a, &QAction::triggered, this, [this, id] { cadre_.Client().Trt_Menu(id); });
+  connect(a, &QAction::triggered, this, [this, id] {
+    cadre_.Client().Trt_Menu(id);
+    if (id >= CM_TRAINES && id <= CM_CAMERA_JUGE) {
+      EcritReglagesScene({cadre_.Client().GetOptions(), cadre_.Client().GetDureeTraines()});
+      CocheAffichage();
+    }
+  });
   actions_[id] = a;
   return a;
 }
@@ -77,6 +92,7 @@ QAction* QFenCadre::Action(unsigned id) const {
 
 void QFenCadre::CreeMenu() {
   auto* equipes = new QActionGroup(this);
+  auto* cameras = new QActionGroup(this);
   for (const TMenuDeroulant& deroulant : MenuLecteur()) {
     QMenu* menu = menuBar()->addMenu(QString::fromUtf8(deroulant.Titre));
     for (const TEntreeMenu& entree : deroulant.Entrees) {
@@ -89,9 +105,23 @@ void QFenCadre::CreeMenu() {
         a->setCheckable(true);
         equipes->addAction(a);
       }
+      if (EstInterrupteur(entree.Id)) a->setCheckable(true);
+      if (entree.Id >= CM_CAMERA_PUBLIC && entree.Id <= CM_CAMERA_JUGE) {
+        a->setCheckable(true);
+        cameras->addAction(a);
+      }
       menu->addAction(a);
     }
   }
+}
+
+void QFenCadre::CocheAffichage() {
+  const TOptionsScene& o = cadre_.Client().GetOptions();
+  const std::pair<unsigned, bool> coches[] = {
+      {CM_TRAINES, o.Traines > 0}, {CM_LIGNES, o.Lignes}, {CM_SOL, o.Sol}, {CM_FENETRE, o.Fenetre},
+      {CM_CAMERA_PUBLIC + static_cast<unsigned>(o.Camera), true}};
+  for (const auto& [id, coche] : coches)
+    if (QAction* a = Action(id)) a->setChecked(coche);
 }
 
 void QFenCadre::CreeBarre() {

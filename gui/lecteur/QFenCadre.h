@@ -41,6 +41,8 @@ private:
   // Where the frame stands at a first start: beside the editor's.
   static QRect CadreDefaut();
   void CreeMenu();
+  // Ticks the 3D picture's switches and camera as the player holds them.
+  void CocheAffichage();
   void CreeBarre();
   void CreeBarreStatut();
   // The client changed size or the frame its state: the scene follows, and the frame's

@@ -19,6 +19,7 @@
 #include <QOpenGLFramebufferObject>
 #include <QMenuBar>
 #include <QSet>
+#include <QSettings>
 #include <QTest>
 #include <QToolBar>
 
@@ -32,6 +33,10 @@ protected:
     ReinitialiseDocument();
     // The scene runs on the test's clock, which moves only when a test moves it.
     SetHorloge(&horloge);
+    Demarre();
+  }
+  // The application started, up to the first scene drawn.
+  void Demarre() {
     app = std::make_unique<TApp>();
     app->Demarre();
     lecteur = app->Lecteur();
@@ -195,4 +200,51 @@ TEST_F(LecteurTest, ChoosingATeamRebuildsTheSceneWithItsModels) {
   EXPECT_EQ(Team, 3);
 }
 
+}  // namespace
+
+namespace {
+// The 3D picture's switches: ticked in the menu, given to the scene, and found again by the
+// next run; settings that make no sense give the defaults.
+TEST_F(LecteurTest, SceneSwitchesReachTheSceneAndAreRememberedByTheNextRun) {
+  QSettings().remove(QStringLiteral("scene"));
+  for (unsigned id : {CM_TRAINES, CM_SOL, CM_FENETRE, CM_CAMERA_JUGE}) lecteur->Action(id)->trigger();
+  const TOptionsScene attendu{TRAINES_DEFAUT, false, true, true, TCamera::Juge};
+  auto verifie = [&](const char* quand) {
+    for (unsigned id : {CM_TRAINES, CM_SOL, CM_FENETRE, CM_CAMERA_JUGE})
+      EXPECT_TRUE(lecteur->Action(id)->isChecked()) << quand << " " << id;
+    for (unsigned id : {CM_LIGNES, CM_CAMERA_PUBLIC, CM_CAMERA_PILOTES})
+      EXPECT_FALSE(lecteur->Action(id)->isChecked()) << quand << " " << id;
+    ASSERT_NE(Globals.pD3DDemo, nullptr);
+    EXPECT_TRUE(Globals.pD3DDemo->Options == attendu) << quand;
+  };
+  verifie("au choix");
+
+  app.reset();
+  ReinitialiseDocument();
+  Demarre();
+  verifie("au lancement suivant");
+
+  // The camera is one of three, never two at once.
+  lecteur->Action(CM_CAMERA_PILOTES)->trigger();
+  EXPECT_FALSE(lecteur->Action(CM_CAMERA_JUGE)->isChecked());
+  EXPECT_TRUE(Globals.pD3DDemo->Options.Camera == TCamera::Pilotes);
+
+  app.reset();
+  {
+    QSettings s;
+    s.setValue(QStringLiteral("scene/traines"), QStringLiteral("peut-être"));
+    s.setValue(QStringLiteral("scene/dureeTraines"), -7);
+    s.setValue(QStringLiteral("scene/camera"), 12);
+    s.setValue(QStringLiteral("scene/sol"), QStringList{QStringLiteral("x"), QStringLiteral("y")});
+    s.setValue(QStringLiteral("scene/fenetre"), 2);
+    s.setValue(QStringLiteral("scene/lignes"), QStringLiteral("oui"));
+  }
+  ReinitialiseDocument();
+  Demarre();
+  ASSERT_NE(Globals.pD3DDemo, nullptr);
+  EXPECT_TRUE(Globals.pD3DDemo->Options == TOptionsScene{});
+  EXPECT_EQ(app->Lecteur()->Cadre().Client().GetDureeTraines(), TRAINES_DEFAUT);
+  EXPECT_TRUE(lecteur->Action(CM_CAMERA_PUBLIC)->isChecked());
+  QSettings().remove(QStringLiteral("scene"));
+}
 }  // namespace

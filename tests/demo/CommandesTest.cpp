@@ -29,7 +29,9 @@ TEST(CommandesTest, MenuHoldsThreePopUpsWithTheirItemsInOrder) {
   EXPECT_EQ(Decrit(menu[1]),
             "&Scène: 110 Rotation &Gauche | 111 Rotation &Droite | 112 Zoom &Plus | 113 Zoom &Moins |"
             " 114 Déplacement &Haut | 115 Déplacement &Bas | 116 Soleil G&auche | 117 Soleil D&roite |"
-            " 118 &Réglages par défaut |");
+            " 118 &Réglages par défaut | - | 140 &Traînées | 141 D&urée des traînées |"
+            " 142 Pilotes et &lignes | 143 S&ol | 144 &Fenêtre du vent | - | 145 Caméra : publi&c |"
+            " 146 Caméra : p&ilotes | 147 Caméra : &juge |");
   EXPECT_EQ(Decrit(menu[2]),
             "&Options: 130 &Temps Début | - | 120 Team N°&1 : Orvane | 121 Team N°&2 : Couleurs |"
             " 122 Team N°&3 : Tessel | 123 Team N°&4 : Révo | 124 Team N°&5  |");

@@ -18,6 +18,9 @@
 #include <string>
 #include <vector>
 
+#include "model/Document.h"
+#include "model/ListeCV.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -117,6 +120,20 @@ TEST(Modeles, LesSixCerfsVolantsDUneEquipeOntChacunSaCouleur) {
         EXPECT_GT(std::abs(ca.r - cb.r) + std::abs(ca.g - cb.g) + std::abs(ca.b - cb.b), 0.3f)
             << nomModele(e, a) << " / " << nomModele(e, b);
       }
+}
+
+// Team 1 shows each kite in the colour the sheets draw it in.
+TEST(Modeles, LEquipeUnPorteLesCouleursDeLEditeur) {
+  ReinitialiseDocument();
+  InitialiseNumCoul();
+  for (int k = 1; k <= 6; ++k) {
+    const TColor e = TabLElt[k - 1].Couleur;
+    const aiColor4D& c = tous().at({1, k}).principale;
+    EXPECT_NEAR(c.r, e.Red() / 255.0f, 0.01f) << nomModele(1, k);
+    EXPECT_NEAR(c.g, e.Green() / 255.0f, 0.01f) << nomModele(1, k);
+    EXPECT_NEAR(c.b, e.Blue() / 255.0f, 0.01f) << nomModele(1, k);
+  }
+  ReinitialiseDocument();
 }
 
 TEST(Modeles, ChaqueEquipeASonDessin) {

@@ -123,9 +123,28 @@ public:
     Places += " (" + N(p.x) + ", " + N(p.y) + ", " + N(p.z) + ")";
     return Echoue("PlaceCadre");
   }
+  // What the scene sends beyond its models: each kind's strokes, their count, width, and
+  // first and last vertices.
+  long PoseTraits(TGenreTraits g, const std::vector<TSommetTrait>& sommets, float largeur) override {
+    static const char* const noms[] = {"fenêtre", "pilotes", "lignes", "traînées", "sécurité"};
+    auto sommet = [](const TSommetTrait& v) {
+      return "(" + N(v.P.x) + ", " + N(v.P.y) + ", " + N(v.P.z) + ") rvba " + N(v.r) + " " + N(v.g) + " " + N(v.b) +
+             " " + N(v.a);
+    };
+    std::string t = std::string(noms[static_cast<int>(g)]) + " " + std::to_string(sommets.size()) + " sommets";
+    if (!sommets.empty())
+      t += ", largeur " + N(largeur) + ", de " + sommet(sommets.front()) + " à " + sommet(sommets.back());
+    Traits.push_back(t);
+    return 0;
+  }
+  long MontreSol(bool visible) override {
+    Traits.push_back(visible ? "sol montré" : "sol caché");
+    return 0;
+  }
   std::string Echec;
   long Code = 0;
   std::string Places;
+  std::vector<std::string> Traits;
 
 private:
   long Echoue(const std::string& appel) const { return appel == Echec ? Code : 0; }
@@ -275,7 +294,7 @@ protected:
   }
   unsigned Commande(const std::string& texte) {
     if (texte.find_first_not_of("0123456789") == std::string::npos) return static_cast<unsigned>(std::stoul(texte));
-    for (unsigned id = 100; id < 140; ++id) {
+    for (unsigned id = 100; id < 160; ++id) {
       std::string t = TexteCommande(id) ? TexteCommande(id) : "";
       t.erase(std::remove(t.begin(), t.end(), '&'), t.end());
       if (Sans(t) == texte) return id;
@@ -344,6 +363,22 @@ protected:
              Dit("caméra (" + N(s.CameraX) + ", " + N(s.CameraY) + ", " + N(s.CameraZ) + "), angle " +
                  N(s.AngleCamera) + ", distance " + N(s.DistanceCamera) + ", soleil " + N(s.SoleilX) + ", direction (" +
                  N(s.DirX) + ", " + N(s.DirZ) + ")");
+           });
+         }},
+        {"traits",
+         [&] {
+           if (rendu.Traits.empty()) Dit("aucun trait envoyé");
+           for (const std::string& t : rendu.Traits) Dit(t);
+           rendu.Traits.clear();
+         }},
+        {"securite",
+         [&] {
+           DeLaScene([&](TD3DDemo& s) {
+             if (a.size() < 6)
+               s.SansSegmentSecurite();
+             else
+               s.SegmentSecurite({static_cast<float>(F(a, 0)), static_cast<float>(F(a, 1)), static_cast<float>(F(a, 2))},
+                                 {static_cast<float>(F(a, 3)), static_cast<float>(F(a, 4)), static_cast<float>(F(a, 5))});
            });
          }},
         {"places",

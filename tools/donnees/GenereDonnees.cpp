@@ -105,6 +105,14 @@ const std::array<Colour, 6> kMain = {{{0.86, 0.10, 0.10},    // 1 red
                                        {0.96, 0.84, 0.08},   // 4 yellow
                                        {0.82, 0.12, 0.76},   // 5 magenta
                                        {0.08, 0.78, 0.84}}};  // 6 cyan
+// Team 1 flies the colours the editor draws each kite in (model/Document.cpp), so that a kite
+// reads the same on the sheets and in the player.
+const std::array<Colour, 6> kEditeur = {{{0, 0, 0},   // 1 black
+                                          {1, 0, 0},   // 2 red
+                                          {0, 0, 1},   // 3 blue
+                                          {0, 1, 0},   // 4 green
+                                          {1, 0, 1},   // 5 magenta
+                                          {0, 1, 1}}};  // 6 cyan
 const Colour kWhite = {0.95, 0.95, 0.95};
 const Colour kBlack = {0.06, 0.06, 0.07};
 const Colour kFrame = {0.16, 0.16, 0.18};
@@ -425,7 +433,7 @@ int main(int argc, char** argv) {
   for (int team = 1; team <= 5; ++team)
     for (int number = 1; number <= 6; ++number) {
       std::string name = "CV" + std::to_string(team) + "_" + std::to_string(number) + ".x";
-      ok = save(dir / name, writeX(buildKite(team, kMain[number - 1]), team, number)) && ok;
+      ok = save(dir / name, writeX(buildKite(team, (team == 1 ? kEditeur : kMain)[number - 1]), team, number)) && ok;
     }
   std::vector<std::uint8_t> bmp = writeBmp();
   ok = save(dir / "Nuages.bmp", std::string(bmp.begin(), bmp.end())) && ok;

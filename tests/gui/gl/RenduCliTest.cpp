@@ -148,11 +148,55 @@ TEST_F(RenderCommandTest, TeamIsOneUnlessGiven) {
 TEST_F(RenderCommandTest, BadArgumentsExitWithTwoAndWriteNothing) {
   for (const std::string& arguments :
        {Routine() + " 100", Routine() + " 100 x.png --size 0x5", Routine() + " 100 x.png --team 9",
-        Routine() + " -3 x.png", Routine() + " 100 x.png --size"}) {
+        Routine() + " -3 x.png", Routine() + " 100 x.png --size", Routine() + " 100 x.png --camera dessus",
+       Routine() + " 100 x.png --traines 90"}) {
     EXPECT_EQ(Lance(arguments), 2) << arguments;
     EXPECT_NE(Sortie().find("render IN T OUT.png"), std::string::npos) << arguments;
     EXPECT_EQ(NbPng(), 0) << arguments;
   }
+}
+
+// A picture kept from before the 3D options existed, and one with all of them from the judges'
+// stand: the kites at T = 400, where they cross.
+QImage Reference(const char* nom) {
+  return QImage(QString::fromUtf8(TRAJ_TEST_DATA "/rendu/") + QString::fromUtf8(nom)).convertToFormat(QImage::Format_RGB32);
+}
+
+TEST_F(RenderCommandTest, WithNoOptionThePictureIsTheOneOfBeforeSaveTheKitesColours) {
+  const TSortie& defaut = Dessin("400");
+  const QImage avant = Reference("sans_option_400.png");
+  ASSERT_EQ(defaut.Code, 0);
+  ASSERT_EQ(avant.size(), defaut.Image.size());
+  // Team 1 now flies the sheets' colours: kite 1 black where it was red, kite 2 red where it
+  // was blue; nothing else moved.
+  const std::vector<QRect> cases = Cases(A_400, 800, 400);
+  EXPECT_EQ(DifferentsHors(defaut.Image, avant, cases), 0);
+  EXPECT_GT(Differents(defaut.Image, avant, cases[0]), 20);
+  EXPECT_GT(Differents(defaut.Image, avant, cases[1]), 20);
+}
+
+TEST_F(RenderCommandTest, EveryOptionFromTheJudgesStandDrawsTheKeptPicture) {
+  const TSortie& tout = Dessin("400", "--traines --lignes --sol --fenetre --camera juge");
+  const QImage garde = Reference("options_juge_400.png");
+  ASSERT_EQ(tout.Code, 0);
+  ASSERT_EQ(garde.size(), tout.Image.size());
+  // Software rasterisers may round an edge differently: a few pixels in a hundred.
+  EXPECT_LT(Differents(tout.Image, garde, garde.rect()), 800 * 400 / 100);
+}
+
+TEST_F(RenderCommandTest, EachOptionAddsToThePicture) {
+  const TSortie& defaut = Dessin("400");
+  ASSERT_EQ(defaut.Code, 0);
+  for (const char* option : {"--traines", "--traines 0.5", "--lignes", "--sol", "--fenetre", "--camera pilotes"}) {
+    const TSortie& avec = Dessin("400", option);
+    ASSERT_EQ(avec.Code, 0) << option;
+    EXPECT_GT(Differents(defaut.Image, avec.Image, defaut.Image.rect()), 50) << option;
+  }
+  // A shorter trail covers less of the sky.
+  EXPECT_GT(Differents(defaut.Image, Dessin("400", "--traines").Image, defaut.Image.rect()),
+            Differents(defaut.Image, Dessin("400", "--traines 0.5").Image, defaut.Image.rect()));
+  // The public's camera is the default one.
+  EXPECT_EQ(Differents(defaut.Image, Dessin("400", "--camera public").Image, defaut.Image.rect()), 0);
 }
 
 TEST_F(RenderCommandTest, UnreadableRoutineOrUnwritablePictureExitsWithOne) {

@@ -168,8 +168,10 @@ TEST_F(DonneesPartiellesTest, MissingOrBrokenModelShowsItsBoxAndTheKiteIsLeftOut
 }
 
 TEST_F(DonneesPartiellesTest, MissingBackdropLeavesOneRecordAndAPlainBackground) {
+  // Kite 2, red: kite 1 is black, as on the sheets, and would not show on a black ground.
   Copie("CV1_1.x");
-  const QImage image = Dessine({{{80, 50, 0}, NEZ_EN_HAUT}});
+  Copie("CV1_2.x");
+  const QImage image = Dessine({{{0, 0, -500}, NEZ_EN_HAUT}, {{80, 50, 0}, NEZ_EN_HAUT}});
   EXPECT_EQ(Journal(), "(30) SCENEERR_FICHIERFOND\n");
   EXPECT_EQ(Globals.blDemoOK, 1);
   EXPECT_TRUE(dialogues.Boites.empty());
