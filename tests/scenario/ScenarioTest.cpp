@@ -36,6 +36,7 @@
 #include "platform/Horloge.h"
 #include "platform/Rendu.h"
 #include "platform/Son.h"
+#include "securite/Reglages.h"
 #include "support/Attendu.h"
 #include "support/Fichiers.h"
 #include "support/Trace.h"
@@ -371,16 +372,7 @@ protected:
            for (const std::string& t : rendu.Traits) Dit(t);
            rendu.Traits.clear();
          }},
-        {"securite",
-         [&] {
-           DeLaScene([&](TD3DDemo& s) {
-             if (a.size() < 6)
-               s.SansSegmentSecurite();
-             else
-               s.SegmentSecurite({static_cast<float>(F(a, 0)), static_cast<float>(F(a, 1)), static_cast<float>(F(a, 2))},
-                                 {static_cast<float>(F(a, 3)), static_cast<float>(F(a, 4)), static_cast<float>(F(a, 5))});
-           });
-         }},
+        {"distance", [&] { ReglagesSecurite.Distance = F(a, 0); }},
         {"places",
          [&] {
            Dit("placés" + rendu.Places);
