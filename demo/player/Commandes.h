@@ -30,6 +30,7 @@ enum TCommandeLecteur : unsigned {
   CM_TEAM4 = 123,
   CM_TEAM5 = 124,
   CM_TEMPS_DEBUT = 130,
+  CM_EXPORTER_VIDEO = 150,  // the window's own box, then a film made in the background
 };
 
 inline constexpr int NB_TEAMS = 5;
