@@ -15,8 +15,9 @@
 #include "video/Film.h"
 
 namespace {
-QSpinBox* Nombre(int mini, int maxi, int valeur, const char* suffixe = "") {
+QSpinBox* Nombre(const char* nom, int mini, int maxi, int valeur, const char* suffixe = "") {
   auto* s = new QSpinBox;
+  s->setObjectName(QString::fromLatin1(nom));
   s->setRange(mini, maxi);
   s->setValue(valeur);
   s->setSuffix(QString::fromUtf8(suffixe));
@@ -29,15 +30,18 @@ QBoiteVideo::QBoiteVideo(const TParametresFilm& depart, int fin, QWidget* parent
   setWindowTitle(QStringLiteral("Exporter une vidéo"));
   auto* formulaire = new QFormLayout(this);
   auto* taille = new QHBoxLayout;
-  largeur_ = Nombre(2, LARGEUR_FILM_MAX, depart.Largeur);
-  hauteur_ = Nombre(2, HAUTEUR_FILM_MAX, depart.Hauteur);
+  largeur_ = Nombre("largeur", 2, LARGEUR_FILM_MAX, depart.Largeur);
+  hauteur_ = Nombre("hauteur", 2, HAUTEUR_FILM_MAX, depart.Hauteur);
+  // The encoders take even sizes only.
+  largeur_->setSingleStep(2);
+  hauteur_->setSingleStep(2);
   taille->addWidget(largeur_);
   taille->addWidget(hauteur_);
   formulaire->addRow(QStringLiteral("Taille (largeur, hauteur) :"), taille);
-  fps_ = Nombre(1, 120, depart.Fps, " images/s");
+  fps_ = Nombre("fps", 1, 120, depart.Fps, " images/s");
   formulaire->addRow(QStringLiteral("Cadence :"), fps_);
-  de_ = Nombre(0, std::max(fin - 1, 0), std::clamp(depart.De, 0, std::max(fin - 1, 0)));
-  a_ = Nombre(1, std::max(fin, 1), depart.A < 0 ? fin : std::min(depart.A, fin));
+  de_ = Nombre("de", 0, std::max(fin - 1, 0), std::clamp(depart.De, 0, std::max(fin - 1, 0)));
+  a_ = Nombre("a", 1, std::max(fin, 1), depart.A < 0 ? fin : std::min(depart.A, fin));
   auto* plage = new QHBoxLayout;
   plage->addWidget(de_);
   plage->addWidget(a_);
@@ -63,6 +67,7 @@ QBoiteVideo::QBoiteVideo(const TParametresFilm& depart, int fin, QWidget* parent
   formulaire->addRow(QString::fromUtf8("Caméra :"), camera_);
   auto* ligneFichier = new QHBoxLayout;
   fichier_ = new QLineEdit(QString::fromStdString(depart.Sortie));
+  fichier_->setObjectName(QStringLiteral("fichier"));
   auto* parcourir = new QPushButton(QStringLiteral("Parcourir..."));
   connect(parcourir, &QPushButton::clicked, this, &QBoiteVideo::ChoisitFichier);
   ligneFichier->addWidget(fichier_);

@@ -23,6 +23,7 @@ public:
   // Starts the film of `routine` (the text of a routine file) as `p` asks; p.Entree is not
   // used. False, with the reason said in a box, when it can't start.
   bool Lance(const std::string& routine, TParametresFilm p);
+  void SetCompagnon(const QString& compagnon) { compagnon_ = compagnon; }
   bool EnCours() const { return processus_.state() != QProcess::NotRunning; }
   void Annule();
 
