@@ -157,9 +157,12 @@ bool TEncodeurFFmpeg::Ouvre(const std::string& chemin, const TFormatFilm& format
   e.Image->format = AV_PIX_FMT_YUV420P;
   e.Image->width = format.Largeur;
   e.Image->height = format.Hauteur;
-  av_frame_get_buffer(e.Image, 0);
   e.Conversion = sws_getContext(format.Largeur, format.Hauteur, AV_PIX_FMT_RGBA, format.Largeur, format.Hauteur,
                                 AV_PIX_FMT_YUV420P, SWS_BILINEAR, nullptr, nullptr, nullptr);
+  if (av_frame_get_buffer(e.Image, 0) < 0 || !e.Conversion) {
+    erreur = "mémoire insuffisante pour les images du film";
+    return false;
+  }
 
   if (format.AvecSon) {
     e.Audio = avcodec_alloc_context3(audio);
@@ -190,7 +193,10 @@ bool TEncodeurFFmpeg::Ouvre(const std::string& chemin, const TFormatFilm& format
     av_channel_layout_copy(&e.Bloc->ch_layout, &e.Audio->ch_layout);
     e.Bloc->sample_rate = FREQUENCE_FILM;
     e.Bloc->nb_samples = e.Audio->frame_size > 0 ? e.Audio->frame_size : 1024;
-    av_frame_get_buffer(e.Bloc, 0);
+    if (av_frame_get_buffer(e.Bloc, 0) < 0) {
+      erreur = "mémoire insuffisante pour le son du film";
+      return false;
+    }
   }
 
   if ((r = avio_open(&e.Format->pb, chemin.c_str(), AVIO_FLAG_WRITE)) < 0) {

@@ -45,7 +45,11 @@ bool QExportVideo::Lance(const std::string& routine, TParametresFilm p) {
   // The routine as it stands, saved or not.
   p.Entree = dossier_->filePath(QStringLiteral("routine.rou")).toStdString();
   QFile f(QString::fromStdString(p.Entree));
-  if (!f.open(QIODevice::WriteOnly) || f.write(routine.data(), static_cast<qint64>(routine.size())) < 0) return false;
+  if (!f.open(QIODevice::WriteOnly) || f.write(routine.data(), static_cast<qint64>(routine.size())) < 0) {
+    Dialogues().MessageBox("Impossible d'écrire la routine dans le dossier temporaire.", "Exporter une vidéo",
+                           TBoutons::OK, TIcone::Erreur);
+    return false;
+  }
   f.close();
   QStringList arguments{QStringLiteral("video")};
   for (const std::string& a : ArgumentsFilm(p)) arguments << QString::fromStdString(a);
