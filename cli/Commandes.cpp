@@ -112,6 +112,7 @@ int Controle(const std::vector<std::string>& args);  // cli/Controle.cpp
 #ifdef TRAJ_AVEC_RENDU
 int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
 int Imprime(const std::vector<std::string>& args);  // cli/Impression.cpp, where Qt's PDF writer is
+int Filme(const std::vector<std::string>& args);  // cli/Video.cpp, with the renderer and FFmpeg
 #endif
 
 const std::vector<TCommande>& Commandes() {
@@ -161,6 +162,11 @@ const std::vector<TCommande>& Commandes() {
       {"print", "IN OUT.pdf", "relit IN, imprime toutes ses feuilles dans le PDF OUT.pdf (--per-page 1, 2, 4 ou 8, défaut 8 ; "
        "--pilote K : la feuille du pilote du CV K, de 1 à 6, sa trajectoire seule en couleur et annotée)",
        Imprime},
+      {"video", "IN OUT.mp4|OUT.webm",
+       "le même vol en film avec sa musique : H.264 et AAC en MP4, VP9 et Opus en WebM (--size LxH, défaut "
+       "1280x720, au plus 3840x2160 ; --fps N, défaut 30 ; --from T, --to T en centièmes, défaut toute la "
+       "routine ; --team N ; --traines [S], --lignes, --sol, --fenetre, --camera public|pilotes|juge)",
+       Filme},
 #endif
   };
   return commandes;

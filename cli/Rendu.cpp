@@ -1,8 +1,10 @@
 // trajectoires-cli render: one frame of the demonstration, drawn offscreen, as a PNG.
 #include "Commandes.h"
+#include "Rendu.h"
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 
 #include <QGuiApplication>
@@ -39,7 +41,7 @@ bool LitTaille(const std::string& texte, int& largeur, int& hauteur) {
 }
 
 int Usage(const char* pourquoi) {
-  std::fprintf(stderr, "trajectoires-cli : %s ; render IN T OUT.png [--size LxH] [--team N] [--traines [S]] [--lignes] [--sol] [--fenetre] [--camera public|pilotes|juge] (voir --help)\n",
+  std::fprintf(stderr, "trajectoires-cli : %s ; render IN T OUT.png [--size LxH] [--team N] [--traines [S]] [--lignes] [--sol] [--fenetre] [--camera public|pilotes|juge] [--alertes] (voir --help)\n",
                pourquoi);
   return 2;
 }
@@ -70,6 +72,22 @@ int Rend(const std::vector<std::string>& arguments) {
   if (positionnels.size() != 3) return Usage("il faut IN, T et OUT.png");
   if (!LitEntier(positionnels[1], t)) return Usage("T doit être un entier positif, en centièmes de seconde");
 
+  return AvecImagesRoutine(positionnels[0], largeur, hauteur, equipe, options, [&](TImagesRoutine& images) {
+    if (static_cast<float>(t) >= images.Fin)
+      std::fprintf(stderr, "trajectoires-cli : T = %d est après la fin (%d) : image au temps 0\n", t,
+                   static_cast<int>(images.Fin));
+    const QImage& image = images.Image(t);
+    if (image.isNull() || !image.save(QString::fromStdString(positionnels[2]), "PNG")) {
+      std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", positionnels[2].c_str());
+      return 1;
+    }
+    return 0;
+  });
+}
+
+int AvecImagesRoutine(const std::string& routine, int largeur, int hauteur, int equipe,
+                      const TOptionsScene& options,
+                      const std::function<int(TImagesRoutine&)>& travail) {
   std::string erreur;
   TServeurX serveur;
   if (!serveur.PrepareHorsEcran(erreur)) {
@@ -87,10 +105,12 @@ int Rend(const std::vector<std::string>& arguments) {
   int code = 0;
   TFenCadre2 cadre;
   cadre.SetupWindow();
-  if (!LitRoutine(cadre, positionnels[0])) {
-    std::fprintf(stderr, "trajectoires-cli : impossible de lire « %s »\n", positionnels[0].c_str());
+  if (!LitRoutine(cadre, routine)) {
+    std::fprintf(stderr, "trajectoires-cli : impossible de lire « %s »\n", routine.c_str());
     code = 1;
   } else {
+    TImagesRoutine images;
+    images.Musique = std::string(_FichierMusique, strnlen(_FichierMusique, sizeof _FichierMusique));
     // After the routine, whose TEAM line would otherwise choose the models; and no sound
     // here, so no box about it either.
     Team = equipe;
@@ -102,14 +122,12 @@ int Rend(const std::vector<std::string>& arguments) {
                    CheminJournal().c_str());
       code = 1;
     } else {
-      if (static_cast<float>(t) >= scene->tFin)
-        std::fprintf(stderr, "trajectoires-cli : T = %d est après la fin (%d) : image au temps 0\n", t,
-                     static_cast<int>(scene->tFin));
-      DessineInstant(*scene, t, options);
-      if (surface.Image().isNull() || !surface.Image().save(QString::fromStdString(positionnels[2]), "PNG")) {
-        std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", positionnels[2].c_str());
-        code = 1;
-      }
+      images.Fin = scene->tFin;
+      images.Image = [scene, &surface, &options](int t) -> const QImage& {
+        DessineInstant(*scene, t, options);
+        return surface.Image();
+      };
+      code = travail(images);
     }
   }
   FermeDemo();

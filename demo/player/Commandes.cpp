@@ -43,6 +43,8 @@ constexpr TEntreeMenu Options[] = {
     {CM_TEAM3, "Team N°&3 : Tessel"},
     {CM_TEAM4, "Team N°&4 : Révo"},
     {CM_TEAM5, "Team N°&5 "},
+    {0, nullptr},
+    {CM_EXPORTER_VIDEO, "&Exporter une vidéo..."},
 };
 
 constexpr TMenuDeroulant Menu[] = {

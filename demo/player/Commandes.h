@@ -39,6 +39,7 @@ enum TCommandeLecteur : unsigned {
   CM_CAMERA_PUBLIC = 145,  // CM_CAMERA_PUBLIC + TCamera
   CM_CAMERA_PILOTES = 146,
   CM_CAMERA_JUGE = 147,
+  CM_EXPORTER_VIDEO = 150,  // the window's own box, then a film made in the background
 };
 
 inline constexpr int NB_TEAMS = 5;

@@ -140,6 +140,7 @@ void TFenApp::Trt_Menu(unsigned id) {
     Affichage(id);
     return;
   }
+  if (id == CM_EXPORTER_VIDEO) return;  // the window's box: nothing for the scene to do
   // With no usable scene the other commands have nothing to act on: a beep, and the
   // player's state, the last transport command included, stays as it was.
   TD3DDemo* s = SceneUtilisable();

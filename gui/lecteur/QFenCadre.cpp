@@ -6,6 +6,13 @@
 #include "gui/qt/Cadre.h"
 #include "gui/qt/Gadgets.h"
 #include "gui/lecteur/ReglagesScene.h"
+#include "gui/video/QBoiteVideo.h"
+#include "gui/video/QExportVideo.h"
+#include "demo/Demonstration.h"
+#include "demo/D3DDemo.h"
+#include "files/Ecriture.h"
+#include "model/Document.h"
+#include "platform/Dialogues.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -38,6 +45,10 @@ QFenCadre::QFenCadre(QWidget* parent) : QMainWindow(parent) {
   vue_->setFocusPolicy(Qt::StrongFocus);
   vue_->installEventFilter(this);
   vue_->setFocus();
+  export_ = new QExportVideo(this);
+  connect(export_, &QExportVideo::Fini, this, [](bool ok, const QString& message) {
+    if (!ok) Dialogues().MessageBox(message.toStdString(), "Exporter une vidéo", TBoutons::OK, TIcone::Erreur);
+  });
   CreeMenu();
   CreeBarre();
   CreeBarreStatut();
@@ -74,13 +85,16 @@ QFenCadre::~QFenCadre() { cadre_.SetVue(nullptr); }
 
 QAction* QFenCadre::NouvelleAction(unsigned id) {
   auto* a = new QAction(QString::fromUtf8(TexteCommande(id)), this);
-  connect(a, &QAction::triggered, this, [this, id] {
-    cadre_.Client().Trt_Menu(id);
-    if (id >= CM_TRAINES && id <= CM_CAMERA_JUGE) {
-      EcritReglagesScene({cadre_.Client().GetOptions(), cadre_.Client().GetDureeTraines()});
-      CocheAffichage();
-    }
-  });
+  if (id == CM_EXPORTER_VIDEO)
+    connect(a, &QAction::triggered, this, &QFenCadre::ExporteVideo);
+  else
+    connect(a, &QAction::triggered, this, [this, id] {
+      cadre_.Client().Trt_Menu(id);
+      if (id >= CM_TRAINES && id <= CM_CAMERA_JUGE) {
+        EcritReglagesScene({cadre_.Client().GetOptions(), cadre_.Client().GetDureeTraines()});
+        CocheAffichage();
+      }
+    });
   actions_[id] = a;
   return a;
 }
@@ -211,4 +225,25 @@ void QFenCadre::Redimensionne(TTypeTaille type) {
   const int hauteur = cadre_.EvSize(type, height(), client.width(), client.height());
   if (type == TTypeTaille::Normale && hauteur != height() && !isMaximized() && !isFullScreen())
     resize(width(), hauteur);
+}
+
+void QFenCadre::ExporteVideo() {
+  const TD3DDemo* scene = Globals.pD3DDemo;
+  if (!scene || export_->EnCours()) {
+    Dialogues().MessageBox(scene ? "Un film est déjà en cours d'export." : "Pas de démonstration à filmer.",
+                           "Exporter une vidéo", TBoutons::OK, TIcone::Information);
+    return;
+  }
+  // From the "Temps Début" to the end, with the scene's options and the team as they stand.
+  static std::string derniere;
+  TParametresFilm p;
+  p.Sortie = derniere;
+  p.De = cadre_.Client().tDebut;
+  p.Equipe = Team;
+  p.Scene = cadre_.Client().GetOptions();
+  QBoiteVideo boite(p, static_cast<int>(scene->tFin), this);
+  if (boite.exec() != QDialog::Accepted) return;
+  p = boite.Parametres();
+  derniere = p.Sortie;
+  export_->Lance(TexteRoutine(), p);
 }

@@ -12,6 +12,7 @@
 #include <map>
 
 class QAction;
+class QExportVideo;
 class QLabel;
 
 class QFenCadre : public QMainWindow, public TVueLecteur {
@@ -26,6 +27,7 @@ public:
   // The action of a command, for tests and for the keyboard.
   QAction* Action(unsigned id) const;
   QLabel* Zone(TZoneLecteur zone) const { return zones_[static_cast<int>(zone)]; }
+  QExportVideo* Export() const { return export_; }
 
   void TexteChange(TZoneLecteur zone, const std::string& texte) override;
   void EquipeCochee(int team) override;
@@ -49,10 +51,13 @@ private:
   // height is set to keep the client twice as wide as high.
   void Redimensionne(TTypeTaille type);
   QAction* NouvelleAction(unsigned id);
+  // "Exporter une vidéo...": the box, then the film made in the background.
+  void ExporteVideo();
 
   TFenCadre cadre_;
   QVue3D* vue_ = nullptr;
   QCadence* cadence_ = nullptr;
   std::map<unsigned, QAction*> actions_;
   QLabel* zones_[NB_ZONES_LECTEUR] = {};
+  QExportVideo* export_ = nullptr;
 };

@@ -12,6 +12,20 @@
 #include "platform/Donnees.h"
 #include "platform/Horloge.h"
 #include "support/Doubles.h"
+#include "editor/FenDessin.h"
+#include "files/Lecture.h"
+#include "gui/editeur/QFenCadre2.h"
+#include "Boites.h"
+#include "gui/video/QBoiteVideo.h"
+#include "gui/video/QExportVideo.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSpinBox>
+#include <fstream>
+#include <unistd.h>
 
 #include <QAction>
 #include <QImage>
@@ -208,7 +222,7 @@ namespace {
 TEST_F(LecteurTest, SceneSwitchesReachTheSceneAndAreRememberedByTheNextRun) {
   QSettings().remove(QStringLiteral("scene"));
   for (unsigned id : {CM_TRAINES, CM_SOL, CM_FENETRE, CM_CAMERA_JUGE}) lecteur->Action(id)->trigger();
-  const TOptionsScene attendu{TRAINES_DEFAUT, false, true, true, TCamera::Juge};
+  const TOptionsScene attendu{TRAINES_DEFAUT, false, true, true, TCamera::Juge, true};
   auto verifie = [&](const char* quand) {
     for (unsigned id : {CM_TRAINES, CM_SOL, CM_FENETRE, CM_CAMERA_JUGE})
       EXPECT_TRUE(lecteur->Action(id)->isChecked()) << quand << " " << id;
@@ -242,9 +256,62 @@ TEST_F(LecteurTest, SceneSwitchesReachTheSceneAndAreRememberedByTheNextRun) {
   ReinitialiseDocument();
   Demarre();
   ASSERT_NE(Globals.pD3DDemo, nullptr);
-  EXPECT_TRUE(Globals.pD3DDemo->Options == TOptionsScene{});
+  EXPECT_TRUE(Globals.pD3DDemo->Options == TOptionsScene{.Securite = true});
   EXPECT_EQ(app->Lecteur()->Cadre().Client().GetDureeTraines(), TRAINES_DEFAUT);
   EXPECT_TRUE(lecteur->Action(CM_CAMERA_PUBLIC)->isChecked());
   QSettings().remove(QStringLiteral("scene"));
+}
+
+// "Exporter une vidéo...": the box starts from the "Temps Début" and runs to the end; what it
+// is given is made in the background while the player goes on.
+TEST_F(LecteurTest, ExporterUneVideoDepuisLeTempsDebut) {
+  // The 2-second routine of the films' tests, without its music, as the editor opens it.
+  const QString routine = QDir::temp().filePath(QStringLiteral("trajectoires-lecteur-%1.rou").arg(getpid()));
+  {
+    std::ifstream source(TRAJ_TEST_DATA "/video/deux_secondes.rou");
+    std::string ligne, texte;
+    while (std::getline(source, ligne))
+      if (ligne.rfind("MUSIQUE", 0) != 0) texte += ligne + "\n";
+    std::ofstream(routine.toStdString()) << texte;
+  }
+  ASSERT_TRUE(LitRoutine(app->Editeur()->Cadre(), routine.toStdString()));
+  QFile::remove(routine);
+  TFenDessin::Demo();
+  ASSERT_NE(Globals.pD3DDemo, nullptr);
+  QAction* action = lecteur->Action(CM_EXPORTER_VIDEO);
+  ASSERT_NE(action, nullptr);
+  EXPECT_EQ(action->text(), QString::fromUtf8("&Exporter une vidéo..."));
+  lecteur->Cadre().Client().tDebut = 20;
+  const int fin = static_cast<int>(Globals.pD3DDemo->tFin);
+  const QString film = QDir::temp().filePath(QStringLiteral("trajectoires-lecteur-%1.mp4").arg(getpid()));
+  QFile::remove(film);
+  lecteur->Export()->SetCompagnon(QStringLiteral(TRAJ_CLI));
+  TParametresFilm vu;
+  Pilote<QBoiteVideo>([&](QBoiteVideo* b) {
+    vu = b->Parametres();
+    b->findChild<QSpinBox*>(QStringLiteral("largeur"))->setValue(64);
+    b->findChild<QSpinBox*>(QStringLiteral("hauteur"))->setValue(36);
+    b->findChild<QSpinBox*>(QStringLiteral("a"))->setValue(40);
+    b->findChild<QLineEdit*>(QStringLiteral("fichier"))->setText(film);
+    Bouton(b, QDialogButtonBox::Ok);
+  });
+  action->trigger();
+  EXPECT_EQ(vu.De, 20);
+  EXPECT_EQ(vu.A, fin);
+  EXPECT_EQ(vu.Largeur, 1280);
+  EXPECT_EQ(vu.Fps, 30);
+  EXPECT_EQ(vu.Equipe, 1);
+  ASSERT_TRUE(lecteur->Export()->EnCours());
+  // A second export waits for the first: a box says so.
+  QString dit;
+  QuandOuvert<QMessageBox>([&](QMessageBox* m) {
+    dit = m->text();
+    m->accept();
+  });
+  action->trigger();
+  EXPECT_EQ(dit, QString::fromUtf8("Un film est déjà en cours d'export."));
+  ASSERT_TRUE(AttendQue([&] { return !lecteur->Export()->EnCours(); }));
+  EXPECT_TRUE(QFileInfo(film).size() > 0);
+  QFile::remove(film);
 }
 }  // namespace

@@ -34,7 +34,7 @@ TEST(CommandesTest, MenuHoldsThreePopUpsWithTheirItemsInOrder) {
             " 146 Caméra : p&ilotes | 147 Caméra : &juge |");
   EXPECT_EQ(Decrit(menu[2]),
             "&Options: 130 &Temps Début | - | 120 Team N°&1 : Orvane | 121 Team N°&2 : Couleurs |"
-            " 122 Team N°&3 : Tessel | 123 Team N°&4 : Révo | 124 Team N°&5  |");
+            " 122 Team N°&3 : Tessel | 123 Team N°&4 : Révo | 124 Team N°&5  | - | 150 &Exporter une vidéo... |");
   EXPECT_STREQ(TexteCommande(CM_VITESSE_NORMALE), "Vitesse normale");
   EXPECT_EQ(TexteCommande(102), nullptr);
   EXPECT_EQ(TexteCommande(0), nullptr);  // a separator is no command
