@@ -15,6 +15,12 @@ QColor Couleur(TColor c) { return QColor(c.Red(), c.Green(), c.Blue()); }
 // A colour the block's label stays readable on.
 QColor Texte(const QColor& fond) { return fond.lightness() > 140 ? Qt::black : Qt::white; }
 
+// The kite's colour mixed with white: a black kite's blocks must still carry readable names.
+QColor Teinte(const QColor& c, double blanc) {
+  auto m = [&](int v) { return static_cast<int>(v + (255 - v) * blanc); };
+  return QColor(m(c.red()), m(c.green()), m(c.blue()));
+}
+
 int Px(const TVueTemps& v, double t) {
   const double x = v.X(t);
   return static_cast<int>(std::clamp(std::floor(x), -100000.0, 100000.0));
@@ -96,7 +102,7 @@ void Pistes(QPainter& p, const TSceneFrise& s) {
     const TPiste& piste = s.Frise->Pistes[static_cast<std::size_t>(i)];
     const TRect r = d.Piste(i);
     const QColor c = Couleur(piste.Couleur);
-    const QColor clair = QColor::fromHsv(c.hsvHue(), std::max(c.hsvSaturation() / 3, 20), 250);
+    const QColor clair = Teinte(c, 0.85), fonce = Teinte(c, 0.6);
     p.fillRect(0, r.top, d.Largeur, r.Height(), (i & 1) ? QColor(246, 246, 246) : Qt::white);
     const int haut = r.top + 2, hauteur = std::max(r.Height() - 4, 1);
     // Blocks narrower than a pixel fall on the same column: one stroke for all of them.
@@ -115,7 +121,7 @@ void Pistes(QPainter& p, const TSceneFrise& s) {
       }
       dernierX = x1;
       const QRect bloc(x0, haut, x1 - x0, hauteur);
-      p.fillRect(bloc, choisi ? c : b.Duree ? c.lighter(150) : clair);
+      p.fillRect(bloc, choisi ? c : b.Duree ? fonce : clair);
       p.setPen(choisi ? Qt::black : c);
       p.drawRect(bloc.adjusted(0, 0, -1, -1));
       if (b.Synchro) {
@@ -149,12 +155,19 @@ void Drapeaux(QPainter& p, const TSceneFrise& s) {
     const int x = std::clamp(Px(s.Vue, r.T), 0, d.Largeur - 1);
     p.setPen(QPen(rouge, 1, Qt::DashLine));
     p.drawLine(x, HAUTEUR_REGLE, x, d.Hauteur);
-    const QPolygon drapeau({QPoint(x, 2), QPoint(x + 8, 6), QPoint(x, 10)});
+    // The flag at the foot of the ruler, its name on a ground of its own over the ruler's labels.
+    const int haut = HAUTEUR_REGLE - 11;
+    const QPolygon drapeau({QPoint(x, haut), QPoint(x + 8, haut + 4), QPoint(x, haut + 8)});
     p.setPen(rouge);
     p.setBrush(rouge);
     p.drawPolygon(drapeau);
     p.setBrush(Qt::NoBrush);
-    p.drawText(x + 10, 12, QString::fromStdString(r.Nom));
+    const QString nom = QString::fromStdString(r.Nom);
+    if (!nom.isEmpty()) {
+      const QRect texte(x + 9, haut - 2, p.fontMetrics().horizontalAdvance(nom) + 4, 12);
+      p.fillRect(texte, QColor(255, 240, 240));
+      p.drawText(texte, Qt::AlignCenter, nom);
+    }
   }
 }
 
