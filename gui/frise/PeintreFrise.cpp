@@ -21,6 +21,9 @@ QColor Teinte(const QColor& c, double blanc) {
   return QColor(m(c.red()), m(c.green()), m(c.blue()));
 }
 
+// Narrower than this, blocks are not told apart: they make one run of the kite's colour.
+constexpr int BLOC_MIN = 4;
+
 int Px(const TVueTemps& v, double t) {
   const double x = v.X(t);
   return static_cast<int>(std::clamp(std::floor(x), -100000.0, 100000.0));
@@ -46,7 +49,6 @@ void Regle(QPainter& p, const TSceneFrise& s) {
 
 void Feuilles(QPainter& p, const TSceneFrise& s) {
   const TDisposition& d = s.Dispo;
-  p.fillRect(0, d.YFeuilles, d.Largeur, HAUTEUR_FEUILLES, Qt::white);
   bool pair = false;
   for (const TBandeFeuille& b : s.Frise->Feuilles) {
     const int x0 = std::max(Px(s.Vue, b.Debut), -1), x1 = std::min(Px(s.Vue, b.Fin), d.Largeur + 1);
@@ -103,27 +105,41 @@ void Pistes(QPainter& p, const TSceneFrise& s) {
     const TRect r = d.Piste(i);
     const QColor c = Couleur(piste.Couleur);
     const QColor clair = Teinte(c, 0.85), fonce = Teinte(c, 0.6);
-    p.fillRect(0, r.top, d.Largeur, r.Height(), (i & 1) ? QColor(246, 246, 246) : Qt::white);
+    if (i & 1) p.fillRect(0, r.top, d.Largeur, r.Height(), QColor(246, 246, 246));
     const int haut = r.top + 2, hauteur = std::max(r.Height() - 4, 1);
-    // Blocks narrower than a pixel fall on the same column: one stroke for all of them.
-    int dernierX = -1000000;
+    // Blocks too narrow to tell apart are drawn as one run of the kite's colour, from the
+    // first to the last that follow each other without a gap: a zoomed-out routine of
+    // thousands of elements costs a few rectangles per lane.
+    int runDebut = 0, runFin = -1;
+    auto finRun = [&] {
+      if (runFin >= runDebut) p.fillRect(runDebut, haut, runFin - runDebut + 1, hauteur, c);
+      runFin = -1;
+    };
     for (const TBloc& b : piste.Blocs) {
       int x0 = Px(s.Vue, std::min(b.Debut, b.Fin)), x1 = Px(s.Vue, std::max(b.Debut, b.Fin));
       if (x1 < 0 || x0 > d.Largeur) continue;
       x0 = std::max(x0, -1);
       x1 = std::min(x1, d.Largeur + 1);
       const bool choisi = b.Elt && b.Elt == s.Selection;
-      if (x1 - x0 < 2) {
-        if (x0 == dernierX && !choisi) continue;
-        dernierX = x0;
-        p.fillRect(x0, haut, 1, hauteur, c);
+      if (x1 - x0 < BLOC_MIN && !choisi) {
+        if (runFin >= runDebut && x0 <= runFin + 1) {
+          runFin = std::max(runFin, x1);
+        } else {
+          finRun();
+          runDebut = x0;
+          runFin = x1;
+        }
         continue;
       }
-      dernierX = x1;
+      finRun();
       const QRect bloc(x0, haut, x1 - x0, hauteur);
       p.fillRect(bloc, choisi ? c : b.Duree ? fonce : clair);
-      p.setPen(choisi ? Qt::black : c);
-      p.drawRect(bloc.adjusted(0, 0, -1, -1));
+      // Blocks follow each other: a stroke at each start parts them, with the cost of a fill.
+      p.fillRect(x0, haut, 1, hauteur, c);
+      if (choisi) {
+        p.setPen(Qt::black);
+        p.drawRect(bloc.adjusted(0, 0, -1, -1));
+      }
       if (b.Synchro) {
         // The synchronisation's number at the block's end, as the sheet shows it there.
         const QString n = QString::number(b.Synchro);
@@ -143,6 +159,7 @@ void Pistes(QPainter& p, const TSceneFrise& s) {
         }
       }
     }
+    finRun();
   }
 }
 

@@ -22,4 +22,5 @@ struct TSceneFrise {
   const TElt* Selection = nullptr;
 };
 
+// On a surface already erased to white, as a widget's background or a new image is.
 void PeintFrise(QPainter& p, const TSceneFrise& s);
