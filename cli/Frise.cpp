@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,7 @@
 #include "editor/FenCadre2.h"
 #include "files/Ecriture.h"
 #include "files/Lecture.h"
+#include "frise/Onde.h"
 #include "frise/TexteFrise.h"
 #include "model/Bornes.h"
 #include "model/Document.h"
@@ -32,16 +32,6 @@ bool Temps(const std::string& s, double& t) {
   char* fin = nullptr;
   t = std::strtod(s.c_str(), &fin);
   return !s.empty() && fin && *fin == '\0' && std::isfinite(t) && TempsAdmis(t);
-}
-
-// The music as the routine names it: from the current folder, else beside the routine.
-std::string CheminMusique(const std::string& routine) {
-  const std::string nom(_FichierMusique);
-  if (nom.empty()) return nom;
-  std::error_code erreur;
-  const std::filesystem::path chemin(nom);
-  if (chemin.is_absolute() || std::filesystem::exists(chemin, erreur)) return nom;
-  return (std::filesystem::path(routine).parent_path() / chemin).string();
 }
 
 }  // namespace
@@ -104,7 +94,7 @@ int Frise(const std::vector<std::string>& args) {
     vue.PixelsParCentieme = largeur / (a - de);
   }
   std::string raison;
-  if (!PeintFrisePng(frise, vue, largeur, CheminMusique(in), out, raison)) {
+  if (!PeintFrisePng(frise, vue, largeur, CheminMusique(_FichierMusique, in), out, raison)) {
     std::fprintf(stderr, "trajectoires-cli : impossible d'écrire « %s »\n", out.c_str());
     return 1;
   }

@@ -62,3 +62,10 @@ double Aligne(double t, const TTempo& tempo, const std::vector<TRepere>& reperes
   }
   return trouve ? meilleur : t;
 }
+
+TAlignement Alignement;
+
+float TempsAligne(float t) {
+  if (!Alignement.Actif) return t;
+  return static_cast<float>(Aligne(t, Tempo, Reperes, Alignement.PixelsParCentieme));
+}

@@ -35,3 +35,13 @@ private:
 // t itself when there is none that close.
 double Aligne(double t, const TTempo& tempo, const std::vector<TRepere>& reperes, double pixelsParCentieme,
               double tolerance = 5);
+
+// "Aligner sur les temps": whether a time typed in a property bar snaps to the nearest beat or
+// mark, within the pixels of Aligne at the timeline's present scale.
+struct TAlignement {
+  bool Actif = false;
+  double PixelsParCentieme = 0.1;
+};
+extern TAlignement Alignement;
+// A time typed in a bar, snapped to the routine's beats and marks when the option is on.
+float TempsAligne(float t);

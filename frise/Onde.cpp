@@ -155,6 +155,14 @@ TErreurOnde LitOnde(const std::string& chemin, TOnde& onde, const std::atomic<bo
   return ReduitWav(octets, onde, abandon);
 }
 
+std::string CheminMusique(const std::string& musique, const std::string& routine) {
+  if (musique.empty()) return musique;
+  std::error_code erreur;
+  const std::filesystem::path chemin(musique);
+  if (chemin.is_absolute() || std::filesystem::exists(chemin, erreur) || routine.empty()) return musique;
+  return (std::filesystem::path(routine).parent_path() / chemin).string();
+}
+
 std::vector<TColonne> Colonnes(const TOnde& onde, const TVueTemps& vue, int largeur) {
   std::vector<TColonne> c(static_cast<std::size_t>(std::max(largeur, 0)));
   if (onde.Min.empty() || onde.Frequence <= 0) return c;

@@ -30,6 +30,9 @@ TErreurOnde ReduitWav(std::string_view octets, TOnde& onde, const std::atomic<bo
 // The same from a file.
 TErreurOnde LitOnde(const std::string& chemin, TOnde& onde, const std::atomic<bool>* abandon = nullptr);
 
+// The routine's music file as the player opens it: as named, else beside the routine.
+std::string CheminMusique(const std::string& musique, const std::string& routine);
+
 struct TColonne {
   float Min = 0, Max = 0;
   bool Son = false;  // false where the music is not playing
