@@ -109,6 +109,7 @@ int Exporte(const std::vector<std::string>& args);  // cli/Feuilles.cpp
 int Insere(const std::vector<std::string>& args);   // cli/Feuilles.cpp
 int Vignette(const std::vector<std::string>& args);  // cli/Vignette.cpp
 int Controle(const std::vector<std::string>& args);  // cli/Controle.cpp
+int Frise(const std::vector<std::string>& args);     // cli/Frise.cpp
 #ifdef TRAJ_AVEC_RENDU
 int Rend(const std::vector<std::string>& args);  // cli/Rendu.cpp, where Qt and OpenGL are at hand
 int Imprime(const std::vector<std::string>& args);  // cli/Impression.cpp, where Qt's PDF writer is
@@ -155,6 +156,11 @@ const std::vector<TCommande>& Commandes() {
        "vignettes d'un gestionnaire de fichiers (--size N, de 16 à 4096, défaut 256 ; les figures sont "
        "cherchées aussi dans le dossier de IN)",
        Vignette},
+      {"frise", "IN OUT.png",
+       "relit IN, dessine sa frise (une piste par cerf-volant, les feuilles, la musique, les temps et les repères) "
+       "dans une image PNG (--width W, de 16 à 16384, défaut 1600 ; --from T, --to T en centièmes ; --texte : "
+       "la même frise en texte)",
+       Frise},
 #ifdef TRAJ_AVEC_RENDU
       {"render", "IN T OUT.png", "le même vol, tenu au temps T, dessiné en PNG (--size LxH, défaut 800x400 ; --team N, défaut 1 ; "
        "--traines [S], --lignes, --sol, --fenetre, --camera public|pilotes|juge)",

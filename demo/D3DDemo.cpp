@@ -340,6 +340,17 @@ void TD3DDemo::Go() {
 
 void TD3DDemo::RepartDeMaintenant() { TickReference = Horloge().GetTickCount(); }
 
+void TD3DDemo::Positionne(float t) {
+  if (!std::isfinite(t)) return;
+  t = std::clamp(t, 0.0f, std::max(tFin - 1.0f, 0.0f));
+  tCourant = tPrecedent = static_cast<unsigned>(t);
+  tReference = t;
+  TickReference = Horloge().GetTickCount();
+  // Playing, as a change of mode would, so that the music starts again at the new time;
+  // paused, it is silent already.
+  if (Mode == MODE_AVANT) ModePrecedent = 0;
+}
+
 bool TD3DDemo::EnMouvement() const {
   if (_Debut) return true;
   switch (Mode) {

@@ -44,6 +44,9 @@ public:
   bool EnMouvement() const;
   // The clock counts from now: for a scene held still, which drew no frame meanwhile.
   static void RepartDeMaintenant();
+  // Moves the clock to t, in hundredths, playing or paused, kept within the scene; the next Go
+  // shows t, and the music, when it plays, is ordered again from there.
+  void Positionne(float t);
 
   // What Go keeps from one call to the next, across scenes; back to their start values.
   static void ReinitialiseStatiques();

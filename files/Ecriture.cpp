@@ -10,6 +10,7 @@
 #include "model/Document.h"
 #include "model/Elt.h"
 #include "model/Outils.h"
+#include "frise/Tempo.h"
 #include "model/elements/Pt.h"
 #include "securite/Reglages.h"
 
@@ -18,6 +19,7 @@ std::string TexteRoutine() {
   if (_FichierMusique[0] != '\0')
     texte += "MUSIQUE   " + std::string(_FichierMusique, strnlen(_FichierMusique, sizeof _FichierMusique)) + " \n";
   AjouteLigneSecurite(texte);
+  AjouteLignesRythme(texte);
   const int kites = std::min(nbCV, NB_CV_MAX);
   for (int i = 0; i < kites; ++i)
     for (TNoeud* n = TabLElt[i].Init2(); n; n = n->GetSuivant()) static_cast<TElt*>(n)->Enregistrer(texte, 0, 0.0f);

@@ -35,6 +35,7 @@
 #include "model/elements/Rot.h"
 #include "model/elements/Segment.h"
 #include "model/elements/Stop.h"
+#include "frise/Tempo.h"
 #include "platform/Dialogues.h"
 #include "securite/Reglages.h"
 
@@ -101,6 +102,14 @@ bool LitEntete(std::string_view mot, TLecteurChamps& champs) {
   }
   if (mot == "SECURITE") {
     if (!LitLigneSecurite(champs)) TFenDessin::MessageErreur("Ligne SECURITE illisible : ignorée");
+    return true;
+  }
+  if (mot == "TEMPO") {
+    if (!LitLigneTempo(champs)) TFenDessin::MessageErreur("Ligne TEMPO incorrecte (de 0 à 400 battements par minute) : ignorée");
+    return true;
+  }
+  if (mot == "REPERE") {
+    if (!LitLigneRepere(champs)) TFenDessin::MessageErreur("Ligne REPERE illisible : ignorée");
     return true;
   }
   return false;
@@ -325,6 +334,7 @@ namespace {
 void VideDocument(TFenCadre2& cadre) {
   _FichierMusique[0] = '\0';
   ReglagesSecurite = TReglagesSecurite();
+  VideRythme();
   Team = 1;
   // Every kite, not only those in use: nothing of the previous routine may stay behind.
   for (int i = 0; i < NB_CV_MAX; ++i) {

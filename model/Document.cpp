@@ -4,6 +4,7 @@
 
 #include "editor/FenDessin.h"
 #include "model/Elt.h"
+#include "frise/Tempo.h"
 #include "securite/Reglages.h"
 
 namespace {
@@ -75,6 +76,7 @@ void ReinitialiseDocument() {
   FichierRoutine[0] = '\0';
   _FichierMusique[0] = '\0';
   ReglagesSecurite = TReglagesSecurite();
+  VideRythme();
   PointDebutTampon = TPointf();
   pFenDes0 = nullptr;
   pFenAppDemo = nullptr;

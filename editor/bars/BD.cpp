@@ -5,6 +5,7 @@
 
 #include "editor/DCClient.h"
 #include "editor/FenDessin.h"
+#include "frise/Battements.h"
 #include "model/Bornes.h"
 #include "model/Document.h"
 #include "model/Elt.h"
@@ -161,7 +162,7 @@ void TBD::TrtChanget2() {
   // that is no number, or a time beyond the bounds, keeps the stored time.
   int t = 0;
   if (std::sscanf(Lit(IDC_T).c_str(), "%d", &t) == 1 && TempsSaisiAdmis(static_cast<float>(t)))
-    pElt->Sett2(static_cast<float>(t));
+    pElt->Sett2(TempsAligne(static_cast<float>(t)));
   else
     pElt->Sett2(pElt->t2.GetParam());
   MiseAJourV();

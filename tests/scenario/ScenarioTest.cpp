@@ -341,6 +341,13 @@ protected:
              Dit("t " + std::to_string(s.tCourant));
            });
          }},
+        {"positionne",
+         [&] {
+           DeLaScene([&](TD3DDemo& s) {
+             s.Positionne(F(a, 0));
+             Dit("t " + std::to_string(s.tCourant));
+           });
+         }},
         {"etat",
          [&] {
            DeLaScene([](TD3DDemo& s) {

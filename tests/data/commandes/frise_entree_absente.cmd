@@ -1,0 +1,1 @@
+frise absente.rou OUT --texte

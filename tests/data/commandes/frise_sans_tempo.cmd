@@ -1,0 +1,1 @@
+frise chaque_classe.rou OUT --texte
