@@ -127,6 +127,8 @@ void QFrise::paintEvent(QPaintEvent*) {
 void QFrise::resizeEvent(QResizeEvent* e) {
   QWidget::resizeEvent(e);
   colonnesSales_ = true;
+  // Until the user zooms or scrolls, the whole routine stays fitted to the width.
+  if (!vueChoisie_) ajustee_ = false;
 }
 
 void QFrise::mousePressEvent(QMouseEvent* e) {
@@ -164,16 +166,21 @@ void QFrise::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void QFrise::mouseDoubleClickEvent(QMouseEvent* e) {
-  if (Touche(e->position().toPoint()).Zone == TZone::Regle) Ajuste();
+  if (Touche(e->position().toPoint()).Zone == TZone::Regle) {
+    vueChoisie_ = false;
+    Ajuste();
+  }
 }
 
 void QFrise::wheelEvent(QWheelEvent* e) {
   const QPoint d = e->angleDelta();
   if (e->modifiers() & Qt::ControlModifier) {
+    vueChoisie_ = true;
     ChangeVue(Zoome(vue_, e->position().x(), std::pow(2.0, d.y() / 240.0)));
   } else {
     // A notch scrolls a tenth of the width.
     const int pas = d.x() != 0 ? d.x() : d.y();
+    vueChoisie_ = true;
     TVueTemps v = vue_;
     v.Debut -= pas / 120.0 * width() / 10.0 / vue_.PixelsParCentieme;
     ChangeVue(v);

@@ -59,6 +59,7 @@ private:
   TFrise frise_;
   bool sale_ = true;
   bool ajustee_ = false;
+  bool vueChoisie_ = false;  // zoomed or scrolled by the user: no longer fitted on a resize
   TVueTemps vue_;
   QChargeurOnde* chargeur_;
   std::vector<TColonne> colonnes_;
