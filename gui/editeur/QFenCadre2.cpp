@@ -7,6 +7,8 @@
 #include "gui/editeur/QBande.h"
 #include "gui/editeur/QFeuille.h"
 #include "gui/securite/QAlertes.h"
+#include "gui/frise/DockFrise.h"
+#include "gui/frise/QFrise.h"
 #include "session/FichiersRecents.h"
 #include "session/Modification.h"
 
@@ -57,6 +59,7 @@ QFenCadre2::QFenCadre2(QWidget* parent) : QMainWindow(parent) {
   feuille_ = new QFeuille(client_);
   bande_ = new QBande(cadre_.pFenListe, client_);
   setCentralWidget(client_);
+  frise_ = InstalleFrise(*this, cadre_);
 
   cadre_.SetVue(this);
   cadre_.SetupWindow();
@@ -242,6 +245,7 @@ void QFenCadre2::Dispose() {
 }
 
 void QFenCadre2::Onglets() {
+  if (frise_) frise_->DocumentChange();
   const QSignalBlocker bloque(onglets_);
   while (onglets_->count() > cadre_.nbFeuilles) onglets_->removeTab(onglets_->count() - 1);
   for (int i = 0; i < cadre_.nbFeuilles; ++i) {
@@ -260,6 +264,8 @@ void QFenCadre2::FeuilleActive() { feuille_->SetFeuille(cadre_.pFenDesActive); }
 
 void QFenCadre2::Invalide(TFenDessin* feuille, const TRect& r) {
   if (feuille == feuille_->Feuille()) feuille_->update(QRect(r.left, r.top, r.Width(), r.Height()));
+  // Whatever repaints a sheet may have changed a time: the timeline is built again.
+  if (frise_) frise_->DocumentChange();
 }
 
 void QFenCadre2::Textes() {

@@ -14,6 +14,7 @@ class QAction;
 class QAlertes;
 class QBande;
 class QFeuille;
+class QFrise;
 class QLabel;
 class QMenu;
 class QTabBar;
@@ -29,6 +30,7 @@ public:
   QFeuille* Feuille() const { return feuille_; }
   QTabBar* Onglets_() const { return onglets_; }
   QBande* Bande() const { return bande_; }
+  QFrise* Frise() const { return frise_; }
   // The action of a command, for tests.
   QAction* Action(unsigned id) const;
   QLabel* GadgetPosition() const { return position_; }
@@ -64,6 +66,7 @@ private:
   QTabBar* onglets_ = nullptr;
   QFeuille* feuille_ = nullptr;
   QBande* bande_ = nullptr;
+  QFrise* frise_ = nullptr;  // the timeline's dock under the sheet
   QLabel* position_ = nullptr;
   QAlertes* alertes_ = nullptr;
   QLabel* synchro_ = nullptr;
