@@ -55,8 +55,9 @@ QFrise* InstalleFrise(QMainWindow& fenetre, TFenCadre2& cadre) {
   bool lu = false;
   int hauteur = reglages.value(CLE_HAUTEUR).toInt(&lu);
   if (!lu || hauteur < HAUTEUR_MIN || hauteur > HAUTEUR_MAX) hauteur = HAUTEUR_DEFAUT;
-  const QVariant visible = reglages.value(CLE_VISIBLE, true);
-  dock->setVisible(visible.canConvert<bool>() ? visible.toBool() : true);
+  // Hidden until the user shows it: a first start shows the sheet and its bars as they always were.
+  // Only what a choice of the user wrote shows it: anything else is the default.
+  dock->setVisible(reglages.value(CLE_VISIBLE).toString() == QStringLiteral("true"));
   fenetre.resizeDocks({dock}, {hauteur}, Qt::Vertical);
   dock->Pret = true;
 

@@ -10,6 +10,7 @@
 #include "model/Document.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QTest>
 #include <QWindow>
 
@@ -19,6 +20,8 @@ class FenetreEditeurTest : public ::testing::Test {
 protected:
   void SetUp() override {
     ReinitialiseDocument();
+    // The panels under the sheet as a first start leaves them, whatever a test before chose.
+    for (const char* groupe : {"frise", "alertes"}) QSettings().remove(QString::fromLatin1(groupe));
     app = std::make_unique<TApp>();
     app->Demarre();
     ASSERT_TRUE(AttendQue([&] { return app->Editeur()->Feuille()->isVisible() && app->Editeur()->Feuille()->width() > 0; }));

@@ -58,12 +58,16 @@ protected:
 TEST_F(FriseTest, ADockUnderTheSheetShownFromTheOptionsMenuItsHeightKept) {
   QDockWidget* dock = Dock();
   ASSERT_NE(dock, nullptr);
-  ASSERT_TRUE(AttendQue([&] { return frise->isVisible() && frise->height() > 0; }));
-  EXPECT_EQ(app->Editeur()->dockWidgetArea(dock), Qt::BottomDockWidgetArea);
   QAction* montre = Commande(CM_FRISE);
   QAction* aligne = Commande(CM_ALIGNER_SUR_TEMPS);
   ASSERT_NE(montre, nullptr);
   ASSERT_NE(aligne, nullptr);
+  // Hidden at a first start, as the sheet always was; shown from the menu.
+  EXPECT_FALSE(dock->isVisible());
+  EXPECT_FALSE(montre->isChecked());
+  montre->trigger();
+  ASSERT_TRUE(AttendQue([&] { return frise->isVisible() && frise->height() > 0; }));
+  EXPECT_EQ(app->Editeur()->dockWidgetArea(dock), Qt::BottomDockWidgetArea);
   EXPECT_TRUE(montre->isChecked());
   aligne->trigger();
   EXPECT_TRUE(Alignement.Actif);
@@ -89,6 +93,8 @@ TEST_F(FriseTest, SettingsHoldingNonsenseGiveTheDefaults) {
   QSettings().setValue(QStringLiteral("frise/hauteur"), QStringLiteral("beaucoup"));
   QSettings().setValue(QStringLiteral("frise/visible"), QStringLiteral("peut-être"));
   Demarre();
+  EXPECT_FALSE(Dock()->isVisible());
+  Commande(CM_FRISE)->trigger();
   ASSERT_TRUE(AttendQue([&] { return Dock()->isVisible() && Dock()->height() > 0; }));
   EXPECT_GE(Dock()->height(), 60);
 }
