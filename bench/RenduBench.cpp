@@ -17,7 +17,6 @@
 #include "model/Document.h"
 #include "platform/Horloge.h"
 #include "gui/gl/RenduGL.h"
-#include "gui/gl/ServeurX.h"
 #include "gui/gl/SurfaceHorsEcran.h"
 
 namespace {
@@ -102,19 +101,3 @@ BENCHMARK(BM_ImageDeLaScene)
     ->UseRealTime();
 
 }  // namespace
-
-// OpenGL through Qt needs an X server even offscreen: a private Xvfb when there is no display.
-int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  TServeurX serveur;
-  std::string erreur;
-  if (!serveur.PrepareHorsEcran(erreur)) {
-    std::fprintf(stderr, "pas d'affichage : %s\n", erreur.c_str());
-    return 1;
-  }
-  QGuiApplication application(argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
