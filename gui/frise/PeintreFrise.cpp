@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <QFontMetrics>
+#include <QImage>
 #include <QPainter>
 
 #include "frise/Battements.h"
@@ -82,18 +83,29 @@ void Onde(QPainter& p, const TSceneFrise& s) {
 
 void Grille(QPainter& p, const TSceneFrise& s) {
   const TDisposition& d = s.Dispo;
-  if (!s.Tempo.Defini()) return;
+  if (!s.Tempo.Defini() || d.Largeur <= 0 || d.Hauteur <= d.YFeuilles) return;
   // A grid with beats closer than 4 pixels shows only the strong ones, then nothing.
   const double ecart = s.Tempo.Periode() * s.Vue.PixelsParCentieme;
   if (ecart * 4 < 4) return;
   const auto battements = Battements(s.Tempo, s.Vue.T(0), s.Vue.T(d.Largeur), static_cast<std::size_t>(d.Largeur) + 1);
-  const QPen faible(QColor(0, 0, 0, 40)), fort(QColor(0, 0, 0, 110));
+  // The grid is one row of translucent columns stretched over the bands: a line drawn per beat
+  // costs the painter a hand-over to its worker threads each, many times the drawing itself.
+  QImage rangee(d.Largeur, 1, QImage::Format_ARGB32_Premultiplied);
+  rangee.fill(Qt::transparent);
+  auto* pixels = reinterpret_cast<QRgb*>(rangee.scanLine(0));
   for (const TBattement& b : battements) {
     if (!b.Fort && ecart < 4) continue;
-    p.setPen(b.Fort ? fort : faible);
     const int x = Px(s.Vue, b.T);
-    p.drawLine(x, d.YFeuilles, x, d.Hauteur);
+    if (x < 0 || x >= d.Largeur) continue;
+    // Black at 110 or 40 of 255, premultiplied: only the alpha is set.
+    pixels[x] = std::max(pixels[x], qRgba(0, 0, 0, b.Fort ? 110 : 40));
   }
+  p.drawImage(QRect(0, d.YFeuilles, d.Largeur, d.Hauteur - d.YFeuilles), rangee);
+}
+
+// A vertical stroke across the bands as a filled rectangle, which the painter fills in place.
+void Trait(QPainter& p, int x, int largeur, int y0, int y1, const QColor& c) {
+  p.fillRect(x - largeur / 2, y0, largeur, y1 - y0, c);
 }
 
 void Pistes(QPainter& p, const TSceneFrise& s) {
@@ -192,8 +204,7 @@ void Fin(QPainter& p, const TSceneFrise& s) {
   if (s.Frise->Vide()) return;
   const int x = Px(s.Vue, s.Frise->FinRoutine);
   if (x < 0 || x > s.Dispo.Largeur) return;
-  p.setPen(QPen(Qt::black, 2));
-  p.drawLine(x, s.Dispo.YFeuilles, x, s.Dispo.Hauteur);
+  Trait(p, x, 2, s.Dispo.YFeuilles, s.Dispo.Hauteur, Qt::black);
 }
 
 }  // namespace
@@ -212,9 +223,7 @@ void PeintFrise(QPainter& p, const TSceneFrise& s) {
   Fin(p, s);
   Drapeaux(p, s);
   if (std::isfinite(s.Tete)) {
-    const int x = Px(s.Vue, s.Tete);
-    p.setPen(QPen(QColor(0, 90, 220), 2));
-    p.drawLine(x, 0, x, s.Dispo.Hauteur);
+    Trait(p, Px(s.Vue, s.Tete), 2, 0, s.Dispo.Hauteur, QColor(0, 90, 220));
   }
   p.restore();
 }
