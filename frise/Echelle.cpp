@@ -8,6 +8,7 @@
 namespace {
 constexpr int TOLERANCE_BLOC = 3;   // pixels around a block too thin to aim at
 constexpr int TOLERANCE_REPERE = 4;  // pixels around a mark's flag
+constexpr int TOLERANCE_FIN = 3;     // pixels around a block's end, where a drag takes it
 }  // namespace
 
 TVueTemps Ajuste(double debut, double fin, int largeur) {
@@ -106,8 +107,13 @@ TTouche Touche(const TFrise& frise, const TDisposition& d, const TVueTemps& vue,
   t.Piste = i;
   // The block that holds the point; else the nearest one within the tolerance, which gives
   // the blocks of no duration (a start point, an element of no time) a width to click.
-  double meilleur = TOLERANCE_BLOC + 0.5;
+  double meilleur = TOLERANCE_BLOC + 0.5, meilleureFin = TOLERANCE_FIN + 0.5;
   for (const TBloc& b : frise.Pistes[static_cast<std::size_t>(i)].Blocs) {
+    // Where two blocks meet, the end is the earlier one's: the later one's start follows it.
+    if (const double ecart = std::fabs(vue.X(b.Fin) - p.x); ecart < meilleureFin) {
+      meilleureFin = ecart;
+      t.Fin = &b;
+    }
     const double x0 = vue.X(std::min(b.Debut, b.Fin)), x1 = vue.X(std::max(b.Debut, b.Fin));
     const double ecart = p.x < x0 ? x0 - p.x : p.x > x1 ? p.x - x1 : 0;
     // On a tie the later block wins: the one whose start is at the point.

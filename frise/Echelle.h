@@ -50,6 +50,7 @@ struct TTouche {
   double T = 0;               // the time under the point
   int Piste = -1;             // in a lane: its index
   const TBloc* Bloc = nullptr;  // the block under the point, or nearest within a few pixels
+  const TBloc* Fin = nullptr;   // the block whose end is within a few pixels of the point
   int Feuille = 0;            // on the sheets' band: the sheet under the point
   int Repere = -1;            // on the ruler: the mark whose flag is under the point
 };

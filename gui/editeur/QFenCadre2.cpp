@@ -6,9 +6,10 @@
 #include "gui/qt/Gadgets.h"
 #include "gui/editeur/QBande.h"
 #include "gui/editeur/QFeuille.h"
-#include "gui/securite/QAlertes.h"
+#include "gui/editeur/PanneauBas.h"
 #include "gui/frise/DockFrise.h"
 #include "gui/frise/QFrise.h"
+#include "gui/securite/QAlertes.h"
 #include "session/FichiersRecents.h"
 #include "session/Modification.h"
 
@@ -27,7 +28,6 @@
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QTimer>
 #include <QToolBar>
 
 // The pictures of the buttons live in a static library: their resources must be asked for,
@@ -110,20 +110,8 @@ void QFenCadre2::AjouteAlertes() {
   if (!a) return;
   a->setCheckable(true);
   a->setChecked(visible);
-  // Shown or hidden by the user, the panel takes its height from under the sheet's window
-  // rather than from the sheet and its bars.
-  connect(a, &QAction::triggered, this, [this](bool montrer) {
-    if (montrer == !alertes_->isHidden()) return;
-    const int centrale = centralWidget()->height();
-    alertes_->setVisible(montrer);
-    if (alertes_->isFloating()) return;
-    if (montrer) resizeDocks({alertes_}, {HAUTEUR_ALERTES}, Qt::Vertical);
-    // Once the layout has placed the panel, the window grows or shrinks by what the sheet's
-    // area lost or gained.
-    QTimer::singleShot(0, this, [this, centrale] {
-      resize(width(), height() + centrale - centralWidget()->height());
-    });
-  });
+  connect(a, &QAction::triggered, this,
+          [this](bool montrer) { MontrePanneau(*this, *alertes_, montrer, HAUTEUR_ALERTES); });
   connect(alertes_, &QDockWidget::visibilityChanged, a, [this, a] {
     a->setChecked(!alertes_->isHidden());
     QSettings().setValue(QStringLiteral("alertes/visible"), !alertes_->isHidden());

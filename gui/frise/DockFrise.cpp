@@ -9,6 +9,7 @@
 #include <QSettings>
 
 #include "frise/Battements.h"
+#include "gui/editeur/PanneauBas.h"
 #include "gui/frise/QFrise.h"
 
 namespace {
@@ -33,6 +34,14 @@ protected:
   }
 };
 
+// The height the user last gave the dock; a settings file holding anything else than a height
+// in range gives the default.
+int HauteurRetenue() {
+  bool lu = false;
+  const int hauteur = QSettings().value(CLE_HAUTEUR).toInt(&lu);
+  return lu && hauteur >= HAUTEUR_MIN && hauteur <= HAUTEUR_MAX ? hauteur : HAUTEUR_DEFAUT;
+}
+
 QMenu* MenuOptions(QMainWindow& fenetre) {
   for (QAction* a : fenetre.menuBar()->actions())
     if (a->menu() && a->text() == QStringLiteral("&Options")) return a->menu();
@@ -50,22 +59,27 @@ QFrise* InstalleFrise(QMainWindow& fenetre, TFenCadre2& cadre) {
   dock->setWidget(frise);
   fenetre.addDockWidget(Qt::BottomDockWidgetArea, dock);
 
-  // A settings file holding anything else than a height in range gives the default.
-  QSettings reglages;
-  bool lu = false;
-  int hauteur = reglages.value(CLE_HAUTEUR).toInt(&lu);
-  if (!lu || hauteur < HAUTEUR_MIN || hauteur > HAUTEUR_MAX) hauteur = HAUTEUR_DEFAUT;
   // Hidden until the user shows it: a first start shows the sheet and its bars as they always were.
   // Only what a choice of the user wrote shows it: anything else is the default.
-  dock->setVisible(reglages.value(CLE_VISIBLE).toString() == QStringLiteral("true"));
-  fenetre.resizeDocks({dock}, {hauteur}, Qt::Vertical);
+  dock->setVisible(QSettings().value(CLE_VISIBLE).toString() == QStringLiteral("true"));
+  fenetre.resizeDocks({dock}, {HauteurRetenue()}, Qt::Vertical);
   dock->Pret = true;
 
-  QAction* montre = dock->toggleViewAction();
-  montre->setText(QStringLiteral("&Frise"));
+  // Shown or hidden by the user, in this run or an earlier one; the window grows by the dock's
+  // height, as it does for the alerts.
+  auto* montre = new QAction(QStringLiteral("&Frise"), &fenetre);
   montre->setObjectName(QStringLiteral("commande%1").arg(CM_FRISE));
-  // The user's choice only: the dock hides too when its window goes, which is no choice.
-  QObject::connect(montre, &QAction::triggered, dock, [](bool oui) { QSettings().setValue(CLE_VISIBLE, oui); });
+  montre->setCheckable(true);
+  montre->setChecked(!dock->isHidden());
+  QObject::connect(montre, &QAction::triggered, dock, [&fenetre, dock](bool oui) {
+    QSettings().setValue(CLE_VISIBLE, oui);
+    MontrePanneau(fenetre, *dock, oui, HauteurRetenue());
+  });
+  // Its close button is the user's choice too; a window that goes hides it without making it hidden.
+  QObject::connect(dock, &QDockWidget::visibilityChanged, montre, [montre, dock] {
+    montre->setChecked(!dock->isHidden());
+    if (dock->isHidden()) QSettings().setValue(CLE_VISIBLE, false);
+  });
   auto* aligne = new QAction(QStringLiteral("Aligner sur les &temps"), &fenetre);
   aligne->setObjectName(QStringLiteral("commande%1").arg(CM_ALIGNER_SUR_TEMPS));
   aligne->setCheckable(true);

@@ -22,6 +22,7 @@
 #include "gui/frise/ChargeurOnde.h"
 #include "gui/frise/PeintreFrise.h"
 #include "model/Document.h"
+#include "model/Elt.h"
 #include "model/Nombres.h"
 #include "platform/Dialogues.h"
 #include "session/Modification.h"
@@ -30,6 +31,7 @@ QFrise::QFrise(TFenCadre2& cadre, QWidget* parent)
     : QWidget(parent), cadre_(cadre), chargeur_(new QChargeurOnde(this)), horloge_(new QTimer(this)) {
   setObjectName(QStringLiteral("frise"));
   setFocusPolicy(Qt::ClickFocus);
+  setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMinimumHeight(60);
   connect(chargeur_, &QChargeurOnde::Prete, this, [this] {
@@ -142,15 +144,27 @@ void QFrise::mousePressEvent(QMouseEvent* e) {
       glisse_ = TGlisse::Lecteur;
       DeplaceLecteur(t.T);
     }
-  } else if (t.Zone == TZone::Piste && t.Bloc) {
-    SelectionneElement(cadre_, const_cast<TElt*>(t.Bloc->Elt));
+  } else if (t.Zone == TZone::Piste && (t.Fin || t.Bloc)) {
+    // A block's end is dragged when its time may be typed; else the click selects the block.
+    auto* fin = t.Fin ? const_cast<TElt*>(t.Fin->Elt) : nullptr;
+    if (fin && SelectionneElement(cadre_, fin) && PrendFin(fin)) {
+      glisse_ = TGlisse::Fin;
+      fin_ = fin;
+    } else if (t.Bloc) {
+      SelectionneElement(cadre_, const_cast<TElt*>(t.Bloc->Elt));
+    }
     update();
   }
 }
 
 void QFrise::mouseMoveEvent(QMouseEvent* e) {
   const double t = vue_.T(e->position().x());
-  if (glisse_ == TGlisse::Lecteur) {
+  if (glisse_ == TGlisse::Rien) {
+    Curseur(e->position().toPoint());
+  } else if (glisse_ == TGlisse::Fin) {
+    DeplaceFin(fin_, t);
+    DocumentChange();
+  } else if (glisse_ == TGlisse::Lecteur) {
     DeplaceLecteur(t);
   } else if (glisse_ == TGlisse::Repere && repere_ >= 0 && repere_ < static_cast<int>(Reperes.size())) {
     const double aligne = Alignement.Actif ? Aligne(t, Tempo, {}, vue_.PixelsParCentieme) : t;
@@ -159,10 +173,23 @@ void QFrise::mouseMoveEvent(QMouseEvent* e) {
   }
 }
 
-void QFrise::mouseReleaseEvent(QMouseEvent*) {
-  if (glisse_ == TGlisse::Repere) RythmeChange();
+void QFrise::mouseReleaseEvent(QMouseEvent* e) {
+  if (glisse_ == TGlisse::Repere || glisse_ == TGlisse::Fin) RythmeChange();
   glisse_ = TGlisse::Rien;
   repere_ = -1;
+  fin_ = nullptr;
+  Curseur(e->position().toPoint());
+}
+
+void QFrise::Curseur(const QPoint& p) {
+  const TTouche t = Touche(p);
+  // Only the bars of the sheet in front are open: an end on another sheet is tried on the press.
+  const TElt* e = t.Fin ? t.Fin->Elt : nullptr;
+  const bool deplacable = e && (e->pBD == nullptr || FinDeplacable(e));
+  if (deplacable)
+    setCursor(Qt::SizeHorCursor);
+  else
+    unsetCursor();
 }
 
 void QFrise::mouseDoubleClickEvent(QMouseEvent* e) {

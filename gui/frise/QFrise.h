@@ -14,6 +14,7 @@
 
 class QChargeurOnde;
 class QTimer;
+class TElt;
 class TFenCadre2;
 
 class QFrise : public QWidget {
@@ -54,6 +55,8 @@ private:
   void SuitLecteur();
   void ChangeVue(const TVueTemps& v);
   void RythmeChange();
+  // The pointer's shape over p: a double arrow over a block's end that a drag moves.
+  void Curseur(const QPoint& p);
 
   TFenCadre2& cadre_;
   TFrise frise_;
@@ -67,6 +70,7 @@ private:
   QTimer* horloge_;
   double tete_ = std::numeric_limits<double>::quiet_NaN();
   TTapeur tapeur_;
-  enum class TGlisse { Rien, Lecteur, Repere } glisse_ = TGlisse::Rien;
+  enum class TGlisse { Rien, Lecteur, Repere, Fin } glisse_ = TGlisse::Rien;
   int repere_ = -1;
+  TElt* fin_ = nullptr;  // the element whose end is dragged
 };

@@ -2,6 +2,8 @@
 // typed in a bar.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "editor/FenDessin.h"
 #include "editor/bars/BD.h"
 #include "frise/Battements.h"
@@ -64,6 +66,36 @@ TEST_F(EditeurFriseTest, ATypedTimeSnapsToTheNearestBeatOrMarkOnlyWhenAsked) {
   Alignement.PixelsParCentieme = 2;  // 2.5 hundredths
   EXPECT_FLOAT_EQ(tape("1937"), 1937.0f);
   EXPECT_FLOAT_EQ(tape("1948"), 1950.0f);
+}
+
+TEST_F(EditeurFriseTest, ABlockEndDraggedMovesAsATypedTimeDoesAndOnlyWhereOneMayBeTyped) {
+  OuvreTroisFeuilles();
+  TElt* seg = Element(1, 3);  // kite 1's last segment, ending at 2000, free in time
+  ASSERT_TRUE(SelectionneElement(*cadre, seg));
+  ASSERT_TRUE(PrendFin(seg));
+  EXPECT_FLOAT_EQ(DeplaceFin(seg, 1937.4), 1937.0f);
+  // The timeline built again shows the block ending there, and its kite with it.
+  frise = ConstruitFrise();
+  EXPECT_FLOAT_EQ(frise.Pistes[1].Blocs[3].Fin, 1937.0f);
+  Alignement.Actif = true;
+  Alignement.PixelsParCentieme = 0.1;
+  EXPECT_FLOAT_EQ(DeplaceFin(seg, 1937.4), 1950.0f);
+  EXPECT_FLOAT_EQ(DeplaceFin(seg, 1e12), 1950.0f);  // beyond what a routine takes: kept
+  EXPECT_FLOAT_EQ(DeplaceFin(seg, std::nan("")), 1950.0f);
+  // The whole drag is undone at once.
+  cadre->pFenDesActive->Undo();
+  frise = ConstruitFrise();
+  EXPECT_FLOAT_EQ(frise.Pistes[1].Blocs[3].Fin, 2000.0f);
+
+  // An end a synchronisation sets, or an even speed, is not the user's to drag.
+  TElt* synchronise = Element(1, 2);
+  ASSERT_TRUE(SelectionneElement(*cadre, synchronise));
+  EXPECT_FALSE(PrendFin(synchronise));
+  EXPECT_FLOAT_EQ(DeplaceFin(synchronise, 700), 950.0f);
+  TElt* vitesse = Element(0, 1);
+  ASSERT_TRUE(SelectionneElement(*cadre, vitesse));
+  EXPECT_FALSE(FinDeplacable(vitesse));
+  EXPECT_FALSE(FinDeplacable(nullptr));
 }
 
 }  // namespace

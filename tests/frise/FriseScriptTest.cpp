@@ -100,6 +100,7 @@ protected:
       r = "  " + std::string(zones[static_cast<int>(t.Zone)]) + " t " + N(t.T);
       if (t.Piste >= 0) r += " piste " + std::to_string(t.Piste);
       if (t.Bloc) r += " bloc « " + t.Bloc->Nom + " » " + N(t.Bloc->Debut) + "-" + N(t.Bloc->Fin);
+      if (t.Fin) r += " fin de « " + t.Fin->Nom + " »";
       if (t.Feuille) r += " feuille " + std::to_string(t.Feuille);
       if (t.Repere >= 0) r += " repère " + std::to_string(t.Repere);
       r += "\n";
