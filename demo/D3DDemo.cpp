@@ -346,6 +346,9 @@ void TD3DDemo::Positionne(float t) {
   tCourant = tPrecedent = static_cast<unsigned>(t);
   tReference = t;
   TickReference = Horloge().GetTickCount();
+  // A scene just made starts at its first frame from tDebut, unless it is placed before that
+  // frame: the place chosen wins.
+  _Debut = false;
   // Playing, as a change of mode would, so that the music starts again at the new time;
   // paused, it is silent already.
   if (Mode == MODE_AVANT) ModePrecedent = 0;
