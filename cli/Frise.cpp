@@ -10,6 +10,7 @@
 #include "EditeurScript.h"
 #include "FrisePng.h"
 #include "editor/FenCadre2.h"
+#include "editor/FenDessin.h"
 #include "files/Ecriture.h"
 #include "files/Lecture.h"
 #include "frise/Onde.h"
@@ -72,6 +73,9 @@ int Frise(const std::vector<std::string>& args) {
     std::fprintf(stderr, "trajectoires-cli : impossible de lire « %s »\n", in.c_str());
     return 1;
   }
+  // The times as the editor shows them once it has opened the routine: a stretch flown at even
+  // speed gets its times from its length.
+  TFenDessin::MiseAJourVTotale();
   const TFrise frise = ConstruitFrise();
   if (!avecDe) de = frise.Debut;
   if (!avecA) a = std::max(static_cast<double>(frise.Fin), de + 100);

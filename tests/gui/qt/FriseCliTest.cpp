@@ -66,7 +66,7 @@ protected:
   fs::path dossier;
 };
 
-// The routine spans 0 to 2462.4, its kites end at 2462.4, 2000 and 950; 3 lanes of 30 pixels.
+// The routine spans 0 to 2473.4, its kites end at 2473.4, 2000 and 950; 3 lanes of 30 pixels.
 TEST_F(FriseCliTest, EachThingStandsAtTheTimeTheLogicGivesIt) {
   Ecrit("vent.wav", DeuxSecondes());
   ASSERT_EQ(Frise("f.png --width 1000"), 0);
@@ -74,7 +74,7 @@ TEST_F(FriseCliTest, EachThingStandsAtTheTimeTheLogicGivesIt) {
   ASSERT_EQ(image.width(), 1000);
   const TDisposition d = Dispose(1000, image.height(), 3);
   ASSERT_EQ(image.height(), HAUTEUR_REGLE + HAUTEUR_FEUILLES + HAUTEUR_ONDE_MAX + 90);
-  const TVueTemps vue = Ajuste(0, 2462.4, 1000);
+  const TVueTemps vue = Ajuste(0, 2473.4, 1000);
   auto x = [&](double t) { return static_cast<int>(std::floor(vue.X(t))); };
   // The routine's end, where the second and third kites end, crosses the lanes in black.
   const int fin = x(950);
@@ -99,7 +99,7 @@ TEST_F(FriseCliTest, MusicThatIsNoWaveGivesAnEmptyLaneAndSaysWhy) {
   const QImage image(QString::fromStdString((dossier / "f.png").string()));
   const TDisposition d = Dispose(600, image.height(), 3);
   // Before the first mark, which crosses it as the routine's end does.
-  const TVueTemps vue = Ajuste(0, 2462.4, 600);
+  const TVueTemps vue = Ajuste(0, 2473.4, 600);
   EXPECT_TRUE(BoiteEncre(image, QRect(0, d.YOnde, static_cast<int>(vue.X(390)), d.YPistes - d.YOnde)).isNull());
   // Zoomed on the first second: the blocks it holds, the first kite's start at the left edge.
   ASSERT_EQ(Frise("g.png --width 600 --from 0 --to 100"), 0);
