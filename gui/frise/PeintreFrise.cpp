@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include <QFontMetrics>
 #include <QImage>
@@ -30,6 +31,13 @@ int Px(const TVueTemps& v, double t) {
   return static_cast<int>(std::clamp(std::floor(x), -100000.0, 100000.0));
 }
 
+// Where a mark's flag stands, and the ground of its name over the ruler's labels.
+int XRepere(const TSceneFrise& s, const TRepere& r) { return std::clamp(Px(s.Vue, r.T), 0, s.Dispo.Largeur - 1); }
+constexpr int HAUT_DRAPEAU = HAUTEUR_REGLE - 11;
+QRect RectangleNom(const QFontMetrics& fm, int x, const QString& nom) {
+  return {x + 9, HAUT_DRAPEAU - 2, fm.horizontalAdvance(nom) + 4, 12};
+}
+
 void Regle(QPainter& p, const TSceneFrise& s) {
   const TDisposition& d = s.Dispo;
   p.fillRect(0, 0, d.Largeur, HAUTEUR_REGLE, QColor(236, 236, 236));
@@ -38,10 +46,18 @@ void Regle(QPainter& p, const TSceneFrise& s) {
   const double pas = PasRegle(s.Vue.PixelsParCentieme);
   const double t0 = std::floor(s.Vue.T(0) / pas) * pas;
   const double t1 = s.Vue.T(d.Largeur);
+  // A label a mark's name would cover is left out rather than half hidden.
+  std::vector<QRect> noms;
+  if (s.Reperes)
+    for (const TRepere& r : *s.Reperes)
+      if (!r.Nom.empty()) noms.push_back(RectangleNom(p.fontMetrics(), XRepere(s, r), QString::fromStdString(r.Nom)));
   for (double t = t0; t <= t1; t += pas) {
     const int x = Px(s.Vue, t);
     p.drawLine(x, HAUTEUR_REGLE - 7, x, HAUTEUR_REGLE - 1);
-    p.drawText(x + 3, HAUTEUR_REGLE - 8, QString::fromStdString(TexteTemps(t, pas)));
+    const QString texte = QString::fromStdString(TexteTemps(t, pas));
+    const QRect place(x + 3, 0, p.fontMetrics().horizontalAdvance(texte), HAUTEUR_REGLE - 8);
+    if (std::none_of(noms.begin(), noms.end(), [&](const QRect& n) { return n.intersects(place); }))
+      p.drawText(x + 3, HAUTEUR_REGLE - 8, texte);
     // Finer ticks between.
     const int x5 = Px(s.Vue, t + pas / 2);
     p.drawLine(x5, HAUTEUR_REGLE - 4, x5, HAUTEUR_REGLE - 1);
@@ -181,11 +197,11 @@ void Drapeaux(QPainter& p, const TSceneFrise& s) {
   const QColor rouge(200, 30, 30);
   for (const TRepere& r : *s.Reperes) {
     // A mark outside the view stays at its time, drawn at the edge.
-    const int x = std::clamp(Px(s.Vue, r.T), 0, d.Largeur - 1);
+    const int x = XRepere(s, r);
     p.setPen(QPen(rouge, 1, Qt::DashLine));
     p.drawLine(x, HAUTEUR_REGLE, x, d.Hauteur);
     // The flag at the foot of the ruler, its name on a ground of its own over the ruler's labels.
-    const int haut = HAUTEUR_REGLE - 11;
+    const int haut = HAUT_DRAPEAU;
     const QPolygon drapeau({QPoint(x, haut), QPoint(x + 8, haut + 4), QPoint(x, haut + 8)});
     p.setPen(rouge);
     p.setBrush(rouge);
@@ -193,7 +209,7 @@ void Drapeaux(QPainter& p, const TSceneFrise& s) {
     p.setBrush(Qt::NoBrush);
     const QString nom = QString::fromStdString(r.Nom);
     if (!nom.isEmpty()) {
-      const QRect texte(x + 9, haut - 2, p.fontMetrics().horizontalAdvance(nom) + 4, 12);
+      const QRect texte = RectangleNom(p.fontMetrics(), x, nom);
       p.fillRect(texte, QColor(255, 240, 240));
       p.drawText(texte, Qt::AlignCenter, nom);
     }
