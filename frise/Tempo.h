@@ -1,6 +1,7 @@
 #pragma once
 // What the routine keeps of its music's rhythm: a tempo (beats per minute and the time of the
 // first beat) and named marks. Times are in hundredths of a second, as every time of a routine.
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,15 @@ struct TRepere {
 extern TTempo Tempo;
 extern std::vector<TRepere> Reperes;
 void VideRythme();
+
+// The marks as the timeline edits them; an index out of range changes nothing and gives false.
+// A new mark is named after its rank, "Repère 3".
+void AjouteRepere(double t);
+// To t, a whole hundredth within the times a routine may hold.
+bool DeplaceRepere(std::size_t i, double t);
+// A name is one line of a routine: line breaks become blanks, and it keeps 200 characters.
+bool RenommeRepere(std::size_t i, const std::string& nom);
+bool SupprimeRepere(std::size_t i);
 
 // Whether bpm is a tempo a routine may hold: a number above 0 and at most TEMPO_MAX.
 bool TempoAdmis(double bpm);

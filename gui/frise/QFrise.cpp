@@ -166,10 +166,9 @@ void QFrise::mouseMoveEvent(QMouseEvent* e) {
     DocumentChange();
   } else if (glisse_ == TGlisse::Lecteur) {
     DeplaceLecteur(t);
-  } else if (glisse_ == TGlisse::Repere && repere_ >= 0 && repere_ < static_cast<int>(Reperes.size())) {
-    const double aligne = Alignement.Actif ? Aligne(t, Tempo, {}, vue_.PixelsParCentieme) : t;
-    Reperes[static_cast<std::size_t>(repere_)].T = static_cast<float>(std::round(aligne * 100) / 100);
-    update();
+  } else if (glisse_ == TGlisse::Repere) {
+    if (DeplaceRepere(static_cast<std::size_t>(repere_), Alignement.Actif ? Aligne(t, Tempo, {}, vue_.PixelsParCentieme) : t))
+      update();
   }
 }
 
@@ -226,7 +225,7 @@ void QFrise::keyPressEvent(QKeyEvent* e) {
 }
 
 void QFrise::AjouteRepere(double t) {
-  Reperes.push_back({static_cast<float>(std::round(t)), "Repère " + std::to_string(Reperes.size() + 1)});
+  ::AjouteRepere(t);
   RythmeChange();
 }
 
@@ -263,19 +262,11 @@ void QFrise::contextMenuEvent(QContextMenuEvent* e) {
     const auto i = static_cast<std::size_t>(t.Repere);
     menu.addAction(QStringLiteral("Renommer le repère..."), this, [this, i] {
       if (i >= Reperes.size()) return;
-      if (const auto nom = Dialogues().Saisie("Repère", "Nom du repère :", Reperes[i].Nom)) {
-        // One line of the routine: no line feed in a name.
-        std::string n = *nom;
-        for (char& c : n)
-          if (c == '\n' || c == '\r') c = ' ';
-        Reperes[i].Nom = n.substr(0, 200);
+      if (const auto nom = Dialogues().Saisie("Repère", "Nom du repère :", Reperes[i].Nom); nom && RenommeRepere(i, *nom))
         RythmeChange();
-      }
     });
     menu.addAction(QStringLiteral("Supprimer le repère"), this, [this, i] {
-      if (i >= Reperes.size()) return;
-      Reperes.erase(Reperes.begin() + static_cast<std::ptrdiff_t>(i));
-      RythmeChange();
+      if (SupprimeRepere(i)) RythmeChange();
     });
   } else {
     const double temps = t.T;

@@ -2,6 +2,7 @@
 // per line, and NAME.attendu what they give (see the README there).
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -13,6 +14,7 @@
 #include "frise/Battements.h"
 #include "frise/Echelle.h"
 #include "frise/Pistes.h"
+#include "frise/Tempo.h"
 #include "model/Elt.h"
 #include "model/Nombres.h"
 #include "support/Attendu.h"
@@ -53,6 +55,7 @@ protected:
       frise = ConstruitFrise();
       return "";
     }
+    if (cmd == "repere") return Repere(in);
     for (double x; in >> x;) v.push_back(x);
     auto arg = [&](std::size_t i) { return i < v.size() ? v[i] : 0.0; };
     std::string r;
@@ -107,6 +110,36 @@ protected:
     } else {
       r = "  commande inconnue\n";
     }
+    return r;
+  }
+
+  // repere ajoute T | deplace I T | renomme I NAME ("\n" a line break) | supprime I: what it
+  // refused, then the routine's lines of marks.
+  static std::string Repere(std::istringstream& in) {
+    std::string action, mot;
+    in >> action;
+    auto nombre = [&] { return in >> mot ? std::strtod(mot.c_str(), nullptr) : 0.0; };
+    bool fait = true;
+    if (action == "ajoute") {
+      AjouteRepere(nombre());
+    } else {
+      const auto i = static_cast<std::size_t>(nombre());
+      if (action == "deplace") {
+        fait = DeplaceRepere(i, nombre());
+      } else if (action == "renomme") {
+        std::string nom;
+        std::getline(in >> std::ws, nom);
+        for (std::size_t p; (p = nom.find("\\n")) != std::string::npos;) nom.replace(p, 2, "\n");
+        fait = RenommeRepere(i, nom);
+      } else {
+        fait = SupprimeRepere(i);
+      }
+    }
+    std::string lignes;
+    AjouteLignesRythme(lignes);
+    std::string r = fait ? "" : "  refusé\n";
+    std::istringstream l(lignes);
+    for (std::string ligne; std::getline(l, ligne);) r += "  " + ligne + "\n";
     return r;
   }
 
