@@ -7,10 +7,22 @@
 #include "editor/FenCadre2.h"
 #include "editor/FenDessin.h"
 #include "editor/bars/BD.h"
+#include "model/Document.h"
 #include "model/Elt.h"
 
+namespace {
+// Compares pointers only: e may be gone.
+bool DuDocument(const TElt* e) {
+  for (int k = 0; k < nbCV; ++k)
+    for (const TNoeud* n = TabLElt[k].Init2(); n; n = n->GetSuivant())
+      if (n == e) return true;
+  return false;
+}
+}  // namespace
+
 bool SelectionneElement(TFenCadre2& cadre, TElt* e) {
-  if (!e || !e->pFen || e->pFen->Num < 1 || e->pFen->Num > cadre.nbFeuilles) return false;
+  // The timeline's blocks may outlive an element until it is built again: it is looked for first.
+  if (!e || !DuDocument(e) || !e->pFen || e->pFen->Num < 1 || e->pFen->Num > cadre.nbFeuilles) return false;
   if (cadre.pFenDesActive != e->pFen) cadre.TabSelChange(e->pFen->Num - 1);
   TDCClient dc(*e->pFen);
   e->pFen->SetEchelle(dc);
@@ -26,9 +38,9 @@ bool PrendFin(TElt* e) {
   return true;
 }
 
-float DeplaceFin(TElt* e, double t) {
-  if (!FinDeplacable(e)) return e ? e->t2.GetParam() : 0.0f;
+bool DeplaceFin(TElt* e, double t) {
+  if (!e || !DuDocument(e) || !FinDeplacable(e)) return false;
   // Typed as the bar takes it, so the bounds, the snapping and what follows are the bar's.
   if (std::isfinite(t) && std::fabs(t) < 1e9) e->pBD->Tape(IDC_T, std::to_string(std::lround(t)));
-  return e->t2.GetParam();
+  return true;
 }

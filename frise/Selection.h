@@ -14,6 +14,7 @@ bool FinDeplacable(const TElt* e);
 // takes it. False, with nothing taken, when the end can't be dragged.
 bool PrendFin(TElt* e);
 // Moves the end of e to t as typing t in its bar does: a whole hundredth, within the times a
-// routine takes, snapped to the beats and marks when "Aligner sur les temps" is on. Returns
-// the end e has then.
-float DeplaceFin(TElt* e, double t);
+// routine takes, snapped to the beats and marks when "Aligner sur les temps" is on. False,
+// with nothing done, when e is no longer an element of the document (an undo during the drag
+// took it away) or its end can't be dragged.
+bool DeplaceFin(TElt* e, double t);

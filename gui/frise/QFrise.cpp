@@ -162,8 +162,12 @@ void QFrise::mouseMoveEvent(QMouseEvent* e) {
   if (glisse_ == TGlisse::Rien) {
     Curseur(e->position().toPoint());
   } else if (glisse_ == TGlisse::Fin) {
-    DeplaceFin(fin_, t);
-    DocumentChange();
+    if (DeplaceFin(fin_, t)) {
+      DocumentChange();
+    } else {
+      glisse_ = TGlisse::Rien;
+      fin_ = nullptr;
+    }
   } else if (glisse_ == TGlisse::Lecteur) {
     DeplaceLecteur(t);
   } else if (glisse_ == TGlisse::Repere) {

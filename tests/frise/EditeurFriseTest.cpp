@@ -73,25 +73,34 @@ TEST_F(EditeurFriseTest, ABlockEndDraggedMovesAsATypedTimeDoesAndOnlyWhereOneMay
   TElt* seg = Element(1, 3);  // kite 1's last segment, ending at 2000, free in time
   ASSERT_TRUE(SelectionneElement(*cadre, seg));
   ASSERT_TRUE(PrendFin(seg));
-  EXPECT_FLOAT_EQ(DeplaceFin(seg, 1937.4), 1937.0f);
+  EXPECT_TRUE(DeplaceFin(seg, 1937.4));
+  EXPECT_FLOAT_EQ(seg->t2.GetParam(), 1937.0f);
   // The timeline built again shows the block ending there, and its kite with it.
   frise = ConstruitFrise();
   EXPECT_FLOAT_EQ(frise.Pistes[1].Blocs[3].Fin, 1937.0f);
   Alignement.Actif = true;
   Alignement.PixelsParCentieme = 0.1;
-  EXPECT_FLOAT_EQ(DeplaceFin(seg, 1937.4), 1950.0f);
-  EXPECT_FLOAT_EQ(DeplaceFin(seg, 1e12), 1950.0f);  // beyond what a routine takes: kept
-  EXPECT_FLOAT_EQ(DeplaceFin(seg, std::nan("")), 1950.0f);
-  // The whole drag is undone at once.
+  auto deplace = [&](double t) {
+    EXPECT_TRUE(DeplaceFin(seg, t));
+    return seg->t2.GetParam();
+  };
+  EXPECT_FLOAT_EQ(deplace(1937.4), 1950.0f);
+  EXPECT_FLOAT_EQ(deplace(1e12), 1950.0f);  // beyond what a routine takes: kept
+  EXPECT_FLOAT_EQ(deplace(std::nan("")), 1950.0f);
+  // The whole drag is undone at once; a drag the undo took the element from goes no further.
   cadre->pFenDesActive->Undo();
   frise = ConstruitFrise();
   EXPECT_FLOAT_EQ(frise.Pistes[1].Blocs[3].Fin, 2000.0f);
+  EXPECT_FALSE(DeplaceFin(seg, 1800));
+  EXPECT_FALSE(SelectionneElement(*cadre, seg));
+  EXPECT_FLOAT_EQ(frise.Pistes[1].Blocs[3].Elt->t2.GetParam(), 2000.0f);
 
   // An end a synchronisation sets, or an even speed, is not the user's to drag.
   TElt* synchronise = Element(1, 2);
   ASSERT_TRUE(SelectionneElement(*cadre, synchronise));
   EXPECT_FALSE(PrendFin(synchronise));
-  EXPECT_FLOAT_EQ(DeplaceFin(synchronise, 700), 950.0f);
+  EXPECT_FALSE(DeplaceFin(synchronise, 700));
+  EXPECT_FLOAT_EQ(synchronise->t2.GetParam(), 950.0f);
   TElt* vitesse = Element(0, 1);
   ASSERT_TRUE(SelectionneElement(*cadre, vitesse));
   EXPECT_FALSE(FinDeplacable(vitesse));
