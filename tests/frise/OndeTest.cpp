@@ -8,12 +8,9 @@
 #include <vector>
 
 #include "frise/Onde.h"
+#include "support/Wav.h"
 
 namespace {
-
-void Mot(std::string& s, std::uint32_t v, int octets) {
-  for (int i = 0; i < octets; ++i) s += static_cast<char>((v >> (8 * i)) & 0xFF);
-}
 
 // A WAV of the given samples, interleaved; `bits` 8, 16, 24 or 32, code 1 PCM or 3 float.
 std::string Wav(const std::vector<double>& echantillons, int canaux, int frequence, int bits, int code = 1) {
@@ -23,33 +20,20 @@ std::string Wav(const std::vector<double>& echantillons, int canaux, int frequen
       const float f = static_cast<float>(e);
       std::uint32_t m;
       std::memcpy(&m, &f, 4);
-      Mot(donnees, m, 4);
+      AjouteMot(donnees, m, 4);
     } else if (bits == 8) {
-      Mot(donnees, static_cast<std::uint32_t>(static_cast<int>(e * 128) + 128), 1);
+      AjouteMot(donnees, static_cast<std::uint32_t>(static_cast<int>(e * 128) + 128), 1);
     } else {
       const double echelle = bits == 16 ? 32768.0 : bits == 24 ? 8388608.0 : 2147483648.0;
-      Mot(donnees, static_cast<std::uint32_t>(static_cast<std::int64_t>(e * echelle)), bits / 8);
+      AjouteMot(donnees, static_cast<std::uint32_t>(static_cast<std::int64_t>(e * echelle)), bits / 8);
     }
   }
-  std::string w = "RIFF";
-  Mot(w, static_cast<std::uint32_t>(36 + donnees.size()), 4);
-  w += "WAVE";
   // A chunk of another kind first, of odd size, which the reader steps over with its pad byte.
-  w += "LIST";
-  Mot(w, 3, 4);
-  w += "abc";
-  w += '\0';
-  w += "fmt ";
-  Mot(w, 16, 4);
-  Mot(w, static_cast<std::uint32_t>(code), 2);
-  Mot(w, static_cast<std::uint32_t>(canaux), 2);
-  Mot(w, static_cast<std::uint32_t>(frequence), 4);
-  Mot(w, static_cast<std::uint32_t>(frequence * canaux * bits / 8), 4);
-  Mot(w, static_cast<std::uint32_t>(canaux * bits / 8), 2);
-  Mot(w, static_cast<std::uint32_t>(bits), 2);
-  w += "data";
-  Mot(w, static_cast<std::uint32_t>(donnees.size()), 4);
-  return w + donnees;
+  std::string liste = "LIST";
+  AjouteMot(liste, 3, 4);
+  liste += "abc";
+  liste += '\0';
+  return EnteteWav(canaux, frequence, bits, donnees.size(), code, liste) + donnees;
 }
 
 // One second at 8 kHz, stereo: the left channel climbs from -1 to 1, the right stays at 0.25.

@@ -17,32 +17,18 @@
 #include "Pixels.h"
 #include "frise/Echelle.h"
 #include "support/Attendu.h"
+#include "support/Wav.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-void Mot(std::string& s, std::uint32_t v, int octets) {
-  for (int i = 0; i < octets; ++i) s += static_cast<char>((v >> (8 * i)) & 0xFF);
-}
-
 // Two seconds of a loud 16-bit mono tone at 8 kHz.
 std::string DeuxSecondes() {
   std::string d;
-  for (int i = 0; i < 16000; ++i) Mot(d, static_cast<std::uint16_t>(static_cast<std::int16_t>(30000 * std::sin(i * 0.3))), 2);
-  std::string w = "RIFF";
-  Mot(w, static_cast<std::uint32_t>(36 + d.size()), 4);
-  w += "WAVEfmt ";
-  Mot(w, 16, 4);
-  Mot(w, 1, 2);
-  Mot(w, 1, 2);
-  Mot(w, 8000, 4);
-  Mot(w, 16000, 4);
-  Mot(w, 2, 2);
-  Mot(w, 16, 2);
-  w += "data";
-  Mot(w, static_cast<std::uint32_t>(d.size()), 4);
-  return w + d;
+  for (int i = 0; i < 16000; ++i)
+    AjouteMot(d, static_cast<std::uint16_t>(static_cast<std::int16_t>(30000 * std::sin(i * 0.3))), 2);
+  return EnteteWav(1, 8000, 16, d.size()) + d;
 }
 
 class FriseCliTest : public ::testing::Test {

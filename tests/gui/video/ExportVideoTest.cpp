@@ -11,6 +11,7 @@
 #include "LectureFilm.h"
 #include "gui/video/QExportVideo.h"
 #include "support/Fichiers.h"
+#include "support/Wav.h"
 
 namespace {
 
@@ -24,17 +25,7 @@ protected:
   }
   void EcritWav() {
     // One second of silence, 8-bit mono at 8 kHz: enough for a sound stream.
-    std::string wav = "RIFF";
-    const auto mot = [&](unsigned v, int n) {
-      for (int i = 0; i < n; ++i) wav += static_cast<char>(v >> (8 * i) & 0xFF);
-    };
-    mot(36 + 8000, 4);
-    wav += "WAVEfmt ";
-    mot(16, 4), mot(1, 2), mot(1, 2), mot(8000, 4), mot(8000, 4), mot(1, 2), mot(8, 2);
-    wav += "data";
-    mot(8000, 4);
-    wav += std::string(8000, '\x80');
-    Ecrit("musique.wav", wav);
+    Ecrit("musique.wav", EnteteWav(1, 8000, 8, 8000) + std::string(8000, '\x80'));
   }
   static std::vector<std::string> Fichiers() {
     std::vector<std::string> noms;

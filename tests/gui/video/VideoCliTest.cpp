@@ -16,6 +16,7 @@
 
 #include "LectureFilm.h"
 #include "support/Fichiers.h"
+#include "support/Wav.h"
 
 namespace {
 
@@ -30,28 +31,14 @@ int Differents(const QImage& a, const QImage& b) {
   return n;
 }
 
-void Mot(std::ofstream& f, std::uint32_t v, int octets) {
-  for (int i = 0; i < octets; ++i) f.put(static_cast<char>(v >> (8 * i) & 0xFF));
-}
 // A WAV of 16-bit PCM, mono at 44.1 kHz: a 440 Hz tone of `secondes`. `manque` bytes of its
 // data are left out while its header still counts them.
 void EcritWav(const std::string& nom, double secondes, int manque = 0) {
   const int n = static_cast<int>(secondes * 44100);
-  std::ofstream f(nom, std::ios::binary);
-  f << "RIFF";
-  Mot(f, 36 + 2 * n, 4);
-  f << "WAVEfmt ";
-  Mot(f, 16, 4);
-  Mot(f, 1, 2);
-  Mot(f, 1, 2);
-  Mot(f, 44100, 4);
-  Mot(f, 88200, 4);
-  Mot(f, 2, 2);
-  Mot(f, 16, 2);
-  f << "data";
-  Mot(f, 2 * n, 4);
+  std::string donnees;
   for (int i = 0; i < n - manque / 2; ++i)
-    Mot(f, static_cast<std::uint16_t>(static_cast<std::int16_t>(8000 * std::sin(i * 2 * M_PI * 440 / 44100))), 2);
+    AjouteMot(donnees, static_cast<std::uint16_t>(static_cast<std::int16_t>(8000 * std::sin(i * 2 * M_PI * 440 / 44100))), 2);
+  std::ofstream(nom, std::ios::binary) << EnteteWav(1, 44100, 16, 2 * static_cast<std::size_t>(n)) << donnees;
 }
 
 class VideoCommandTest : public FichiersTest {
